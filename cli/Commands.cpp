@@ -1,0 +1,31 @@
+#include "cli/Commands.hpp"
+
+namespace vantello::cli {
+
+namespace {
+
+constexpr const char* usage =
+    "Uso: vantello-cli [--help] [--version] <comando> [opzioni]\n"
+    "\n"
+    "Lavora sulla stessa cartella dei dati dell'applicazione Vantello.\n"
+    "\n"
+    "Opzioni:\n"
+    "  --help       mostra questo aiuto\n"
+    "  --version    mostra la versione\n";
+
+}  // namespace
+
+int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
+    if (arguments.empty() || arguments.front() == "--help" || arguments.front() == "-h") {
+        (arguments.empty() ? err : out) << usage;
+        return arguments.empty() ? 2 : 0;
+    }
+    if (arguments.front() == "--version") {
+        out << "vantello-cli " << VANTELLO_VERSION << '\n';
+        return 0;
+    }
+    err << "Comando sconosciuto: " << arguments.front() << "\n\n" << usage;
+    return 2;
+}
+
+}  // namespace vantello::cli

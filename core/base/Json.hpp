@@ -28,6 +28,8 @@ public:
 
 // Amounts in files are JSON strings holding the canonical decimal text. A JSON number in that
 // place is a type mismatch; text that is not a canonical number is "Importo non valido: …".
+// A wrong JSON type (here and for UUIDs and instants) is nlohmann's type_error, which the
+// readers of JsonCoding turn into a DecodingError naming the key; a bad text is a DecodingError.
 struct DecimalText {
     Decimal wrappedValue;
     bool operator==(const DecimalText&) const = default;

@@ -5,6 +5,7 @@
 // Small coefficients live inline in an int64; larger ones move to GMP transparently.
 
 #include <compare>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <gmpxx.h>
@@ -29,6 +30,9 @@ public:
     Decimal() = default;  // zero
     Decimal(std::int64_t integer);  // NOLINT(google-explicit-constructor): integers are exact
     Decimal(std::int64_t coefficient, std::int32_t exponent);  // coefficient × 10^exponent
+    // A binary floating-point value never becomes money by accident; use fromDouble.
+    template <std::floating_point Float>
+    Decimal(Float) = delete;
 
     // Strict canonical text: optional "-", digits, optionally "." and digits ("-12.5", "1250",
     // "0.05", ".5" and "5." are refused). Anything else gives nothing.
@@ -54,7 +58,8 @@ public:
     [[nodiscard]] int sign() const;  // -1, 0 or 1
     [[nodiscard]] bool isZero() const { return sign() == 0; }
     [[nodiscard]] double toDouble() const;
-    // Nearest decimal of a double (17 significant digits at most); nothing for NaN or infinity.
+    // The shortest decimal that reads back as the same double (17 significant digits at most);
+    // nothing for NaN or infinity.
     [[nodiscard]] static std::optional<Decimal> fromDouble(double value);
 
     [[nodiscard]] std::strong_ordering operator<=>(const Decimal& other) const;
@@ -62,6 +67,8 @@ public:
     [[nodiscard]] std::size_t hash() const;
 
 private:
+    struct Arithmetic;  // the fast inline paths and their GMP fallbacks, in the source file
+
     // Coefficient inline while it fits in 64 bits, else in GMP; always normalised.
     std::variant<std::int64_t, mpz_class> coefficient_ = std::int64_t{0};
     std::int32_t exponent_ = 0;

@@ -35,8 +35,9 @@ struct TextPosition {
 // (in characters, counting from 1).
 TextPosition positionOf(std::string_view text, std::size_t byteCount) {
     TextPosition position;
-    const std::size_t end = std::min(byteCount, text.size());
-    for (std::size_t index = 0; index + 1 < end; ++index) {
+    // `byteCount` counts the offending byte itself; at the end of the text it points past it.
+    const std::size_t end = std::min(byteCount > 0 ? byteCount - 1 : 0, text.size());
+    for (std::size_t index = 0; index < end; ++index) {
         const auto byte = static_cast<unsigned char>(text[index]);
         if (byte == '\n') {
             ++position.line;

@@ -1,7 +1,8 @@
 #pragma once
 // Every day, week, month and year question goes through one Calendar: a Gregorian calendar
 // in a named time zone (ICU), the way the user sees dates. A Calendar is a value; copies are
-// independent. Methods are const and safe to call from one thread at a time per copy.
+// independent. Methods are const and safe to call from several threads at once.
+// Dates are proleptic Gregorian, years 1...9999.
 
 #include "core/base/Instant.hpp"
 
@@ -9,11 +10,9 @@
 #include <optional>
 #include <string>
 
-namespace icu {
-class TimeZone;
-}
-
 namespace vantello {
+
+class ZoneRules;
 
 enum class CalendarUnit { day, weekOfYear, month, year };
 
@@ -66,8 +65,9 @@ public:
     [[nodiscard]] int wholeMonthsBetween(Instant from, Instant to) const;
 
 private:
+    // Immutable and shared between copies, so copying a Calendar is cheap.
+    std::shared_ptr<const ZoneRules> rules_;
     std::string zoneId_;
-    std::unique_ptr<icu::TimeZone> zone_;
 };
 
 }  // namespace vantello

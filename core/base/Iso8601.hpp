@@ -9,11 +9,13 @@
 
 namespace vantello::Iso8601 {
 
-// Always UTC with a "Z" and whole seconds.
+// Always UTC with a "Z" and whole seconds. A moment outside the years 1...9999 is written
+// as the nearest end of that range, so that the text can always be read back.
 [[nodiscard]] std::string format(Instant moment);
 
 // "YYYY-MM-DDTHH:MM:SS" followed by "Z" or an offset "+01:00" / "-0530"; fractional seconds
-// are accepted and dropped. Nothing for anything else (including impossible dates).
+// are accepted and dropped. Years 0001...9999. Nothing for anything else (including
+// impossible dates, out-of-range hours and trailing characters).
 [[nodiscard]] std::optional<Instant> parse(std::string_view text);
 
 }  // namespace vantello::Iso8601

@@ -1,0 +1,135 @@
+// Accounts of the ledger: adding, editing and deleting them, and their balances.
+
+#include "core/base/Text.hpp"
+#include "core/ledger/AdvancedError.hpp"
+#include "core/ledger/Ledger.hpp"
+
+#include <algorithm>
+
+namespace vantello {
+
+namespace {
+
+constexpr std::size_t maximumNameLength = 40;
+
+// The trimmed name, or the error that refuses it. `exceptID` is the account being edited, which
+// may keep its own name.
+std::string checkedAccountName(const std::vector<Account>& accounts, std::string_view name,
+                               std::string_view exceptID) {
+    std::string trimmed = Text::trimmed(name);
+    if (trimmed.empty()) throw AdvancedError(AdvancedError::Code::emptyName);
+    if (Text::characterCount(trimmed) > maximumNameLength) {
+        throw AdvancedError(AdvancedError::Code::nameTooLong);
+    }
+    const bool taken = std::any_of(accounts.begin(), accounts.end(), [&](const Account& other) {
+        return other.id != exceptID && Text::equalIgnoringCaseAndAccents(other.name, trimmed);
+    });
+    if (taken) throw AdvancedError(AdvancedError::Code::duplicateAccount);
+    return trimmed;
+}
+
+// Moves references to `removedID` onto the main account; a transfer that would then go from
+// the main account to itself is no transfer any more and becomes an ordinary expense.
+template <typename Record>
+bool moveToMainAccount(Record& record, std::string_view removedID) {
+    bool touched = false;
+    if (record.accountID == removedID) {
+        record.accountID = std::string(mainAccountID);
+        touched = true;
+    }
+    if (record.transferToAccountID && *record.transferToAccountID == removedID) {
+        record.transferToAccountID = std::string(mainAccountID);
+        touched = true;
+    }
+    if (record.transferToAccountID && *record.transferToAccountID == record.accountID) {
+        record.transferToAccountID.reset();
+        record.categoryID = std::string(otherExpensesCategoryID);
+    }
+    return touched;
+}
+
+template <typename Record>
+bool refersTo(const Record& record, std::string_view accountID) {
+    return record.accountID == accountID ||
+           (record.transferToAccountID && *record.transferToAccountID == accountID);
+}
+
+// Adds the movement's effect to the balances of the accounts it involves.
+template <typename Apply>
+void forEachEffect(const Transaction& transaction, Apply&& apply) {
+    if (transaction.transferToAccountID) {
+        apply(transaction.accountID, -transaction.amount);
+        apply(*transaction.transferToAccountID, transaction.amount);
+    } else if (transaction.kind == TransactionKind::income) {
+        apply(transaction.accountID, transaction.amount);
+    } else {
+        apply(transaction.accountID, -transaction.amount);
+    }
+}
+
+}  // namespace
+
+Account Ledger::addAccount(std::string_view name, std::string symbol, Decimal openingBalance,
+                           std::optional<Decimal> lowBalanceThreshold) {
+    Account account;
+    account.name = checkedAccountName(data_.accounts, name, {});
+    account.id = "conto-" + Uuid::random().text();
+    account.symbol = std::move(symbol);
+    account.openingBalance = std::move(openingBalance);
+    account.lowBalanceThreshold = std::move(lowBalanceThreshold);
+    data_.accounts.push_back(account);
+    return account;
+}
+
+void Ledger::updateAccount(Account account) {
+    const auto position = std::find_if(data_.accounts.begin(), data_.accounts.end(),
+                                       [&](const Account& existing) { return existing.id == account.id; });
+    if (position == data_.accounts.end()) throw AdvancedError(AdvancedError::Code::unknownAccount);
+    account.name = checkedAccountName(data_.accounts, account.name, account.id);
+    *position = std::move(account);
+}
+
+int Ledger::deleteAccount(std::string_view id) {
+    if (id == mainAccountID) throw AdvancedError(AdvancedError::Code::mainAccount);
+    const auto position = std::find_if(data_.accounts.begin(), data_.accounts.end(),
+                                       [&](const Account& account) { return account.id == id; });
+    if (position == data_.accounts.end()) throw AdvancedError(AdvancedError::Code::unknownAccount);
+    // `id` may point into the account about to be erased.
+    const std::string removedID(id);
+
+    int touched = 0;
+    SharedList<Transaction>& transactions = data_.transactions;
+    for (std::size_t index = 0; index < transactions.size(); ++index) {
+        if (!refersTo(transactions[index], removedID)) continue;
+        transactions.update(index, [&](Transaction& transaction) { moveToMainAccount(transaction, removedID); });
+        ++touched;
+    }
+    for (RecurringRule& rule : data_.recurringRules) moveToMainAccount(rule, removedID);
+    data_.accounts.erase(position);
+    return touched;
+}
+
+Decimal Ledger::balance(std::string_view accountID) const {
+    const Account* found = account(accountID);
+    Decimal total = found ? found->openingBalance : Decimal();
+    for (const Transaction& transaction : data_.transactions) {
+        forEachEffect(transaction, [&](const std::string& affected, const Decimal& effect) {
+            if (affected == accountID) total += effect;
+        });
+    }
+    return total;
+}
+
+std::map<std::string, Decimal> Ledger::balances() const {
+    std::map<std::string, Decimal> totals;
+    for (const Account& account : data_.accounts) totals.emplace(account.id, account.openingBalance);
+    for (const Transaction& transaction : data_.transactions) {
+        forEachEffect(transaction, [&](const std::string& affected, const Decimal& effect) {
+            // Movements on an account that no longer exists have no balance to go to.
+            if (auto entry = totals.find(affected); entry != totals.end()) entry->second += effect;
+        });
+    }
+    return totals;
+}
+
+}  // namespace vantello

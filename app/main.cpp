@@ -6,7 +6,18 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
+#include <cstdio>
+#include <cstring>
+
 int main(int argc, char* argv[]) {
+    // Answered before the window system is touched, so it works without a display.
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--version") == 0 || std::strcmp(argv[i], "-v") == 0) {
+            std::printf("Vantello %s\n", VANTELLO_VERSION);
+            return 0;
+        }
+    }
+
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vantello"));
     QApplication::setOrganizationName(QStringLiteral("Vantello"));
@@ -15,7 +26,6 @@ int main(int argc, char* argv[]) {
     QCommandLineParser options;
     options.setApplicationDescription(QStringLiteral("Vantello"));
     options.addHelpOption();
-    options.addVersionOption();
     options.process(application);
 
     vantello::app::installInterfaceLanguage(application);

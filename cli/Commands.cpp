@@ -1,5 +1,7 @@
 #include "cli/Commands.hpp"
 
+#include "cli/RatesCommand.hpp"
+
 namespace vantello::cli {
 
 namespace {
@@ -8,6 +10,9 @@ constexpr const char* usage =
     "Uso: vantello-cli [--help] [--version] <comando> [opzioni]\n"
     "\n"
     "Lavora sulla stessa cartella dei dati dell'applicazione Vantello.\n"
+    "\n"
+    "Comandi:\n"
+    "  rates        mostra il cambio della BCE di una valuta in un giorno e converte un importo\n"
     "\n"
     "Opzioni:\n"
     "  --help       mostra questo aiuto\n"
@@ -24,6 +29,8 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
         out << "vantello-cli " << VANTELLO_VERSION << '\n';
         return 0;
     }
+    const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
+    if (arguments.front() == "rates") return runRates(rest, out, err);
     err << "Comando sconosciuto: " << arguments.front() << "\n\n" << usage;
     return 2;
 }

@@ -1,5 +1,6 @@
 #include "cli/Commands.hpp"
 
+#include "cli/CheckCommand.hpp"
 #include "cli/RatesCommand.hpp"
 
 namespace vantello::cli {
@@ -12,6 +13,7 @@ constexpr const char* usage =
     "Lavora sulla stessa cartella dei dati dell'applicazione Vantello.\n"
     "\n"
     "Comandi:\n"
+    "  check        mostra che cosa contiene il file dei movimenti e i saldi dei conti\n"
     "  rates        mostra il cambio della BCE di una valuta in un giorno e converte un importo\n"
     "\n"
     "Opzioni:\n"
@@ -30,6 +32,7 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
         return 0;
     }
     const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
+    if (arguments.front() == "check") return runCheck(rest, out, err);
     if (arguments.front() == "rates") return runRates(rest, out, err);
     err << "Comando sconosciuto: " << arguments.front() << "\n\n" << usage;
     return 2;

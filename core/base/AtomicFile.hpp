@@ -1,0 +1,39 @@
+#pragma once
+// Whole-file reads and crash-safe whole-file writes: a write either replaces the file with the
+// new bytes completely or leaves the old file exactly as it was.
+
+#include "core/base/UserError.hpp"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace vantello {
+
+// A file that could not be read, written, moved or created. The message names the file and the
+// system's reason; `systemError` keeps the errno value for callers that branch on it.
+class FileError : public UserError {
+public:
+    FileError(std::string message, int systemError)
+        : UserError(std::move(message)), systemError_(systemError) {}
+    [[nodiscard]] int systemError() const { return systemError_; }
+
+    // "Non riesco a leggere «{file}»: {reason}." and its siblings, localised.
+    [[nodiscard]] static FileError reading(const std::filesystem::path& file, int systemError);
+    [[nodiscard]] static FileError writing(const std::filesystem::path& file, int systemError);
+    [[nodiscard]] static FileError moving(const std::filesystem::path& file, int systemError);
+
+private:
+    int systemError_;
+};
+
+// Writes `bytes` to a new temporary file beside `file`, flushes it to the disk and renames it
+// over `file` in one step. New files get mode 0644 (less the umask); a replaced file keeps its
+// mode. On failure the temporary file is gone, the old file is untouched and FileError is thrown.
+void writeFileAtomically(const std::filesystem::path& file, std::string_view bytes);
+
+// The whole content of a file; FileError when it cannot be read (ENOENT for a missing file).
+[[nodiscard]] std::string readWholeFile(const std::filesystem::path& file);
+
+}  // namespace vantello

@@ -1,5 +1,6 @@
 #include "core/base/Uuid.hpp"
 
+#include <sys/random.h>
 #include <uuid/uuid.h>
 
 #include <algorithm>
@@ -25,10 +26,25 @@ int hexValue(char digit) {
 }  // namespace
 
 Uuid Uuid::random() {
-    uuid_t generated;
-    uuid_generate_random(generated);
+    // libuuid reseeds a fallback generator with several system calls for every UUID, and an
+    // import creates thousands at once: kernel random bytes are drawn sixteen UUIDs at a time
+    // (a read of 256 bytes is never cut short), libuuid staying for a kernel that refuses.
+    thread_local std::array<std::uint8_t, 256> pool;
+    thread_local std::size_t next = pool.size();
     Uuid id;
-    std::memcpy(id.bytes_.data(), generated, id.bytes_.size());
+    if (next == pool.size()) {
+        if (getrandom(pool.data(), pool.size(), 0) != static_cast<ssize_t>(pool.size())) {
+            uuid_t generated;
+            uuid_generate_random(generated);
+            std::memcpy(id.bytes_.data(), generated, id.bytes_.size());
+            return id;
+        }
+        next = 0;
+    }
+    std::memcpy(id.bytes_.data(), pool.data() + next, id.bytes_.size());
+    next += id.bytes_.size();
+    id.bytes_[6] = static_cast<std::uint8_t>((id.bytes_[6] & 0x0F) | 0x40);  // version 4: random
+    id.bytes_[8] = static_cast<std::uint8_t>((id.bytes_[8] & 0x3F) | 0x80);  // RFC 4122 variant
     return id;
 }
 

@@ -43,6 +43,8 @@ std::string unreadableAmount(std::string_view cell) {
     return L10n::tr("Importo non leggibile: «{text}»", {{"text", cell}});
 }
 
+bool isAsciiWhitespace(UChar32 c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
 // Bank descriptions come padded and broken over lines; runs of white space become one space.
 std::string collapsedWhitespace(std::string_view text) {
     std::string result;
@@ -53,12 +55,15 @@ std::string collapsedWhitespace(std::string_view text) {
     for (std::int64_t offset = 0; offset < length;) {
         const std::int64_t start = offset;
         UChar32 c = bytes[offset];
-        if (c < 0x80) {
+        if (c < 0x80 && !isAsciiWhitespace(c)) {
+            while (offset < length && bytes[offset] < 0x80 && !isAsciiWhitespace(bytes[offset])) ++offset;
+        } else if (c < 0x80) {
             ++offset;
         } else {
             U8_NEXT(bytes, offset, length, c);
         }
-        if (c >= 0 && Text::isWhitespace(static_cast<char32_t>(c))) {
+        const bool white = c < 0x80 ? isAsciiWhitespace(c) : c >= 0 && Text::isWhitespace(static_cast<char32_t>(c));
+        if (white) {
             pendingSpace = !result.empty();
             continue;
         }

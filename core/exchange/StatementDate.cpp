@@ -236,6 +236,11 @@ bool isWrittenWithDigits(const Tokens& parts) {
            isNumericSeparator(parts.gaps[1]) && isNumericSeparator(parts.gaps[2]);
 }
 
+bool isWhite(UChar32 c) {
+    if (c < 0x80) return c == ' ' || (c >= '\t' && c <= '\r');
+    return Text::isWhitespace(static_cast<char32_t>(c));
+}
+
 // The cell without white space at its ends (line breaks and no-break spaces included).
 std::string_view trimmedView(std::string_view text) {
     // No date is anywhere near 2 GB long; such a cell is not trimmed and fails to read.
@@ -247,14 +252,14 @@ std::string_view trimmedView(std::string_view text) {
         std::int32_t next = start;
         UChar32 c = 0;
         U8_NEXT(bytes, next, end, c);
-        if (c < 0 || !Text::isWhitespace(static_cast<char32_t>(c))) break;
+        if (c < 0 || !isWhite(c)) break;
         start = next;
     }
     while (end > start) {
         std::int32_t previous = end;
         UChar32 c = 0;
         U8_PREV(bytes, start, previous, c);
-        if (c < 0 || !Text::isWhitespace(static_cast<char32_t>(c))) break;
+        if (c < 0 || !isWhite(c)) break;
         end = previous;
     }
     return text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));

@@ -94,15 +94,15 @@ void syncFolder(const std::filesystem::path& folder) {
 }  // namespace
 
 FileError FileError::reading(const std::filesystem::path& file, int systemError) {
-    return fileError("Non riesco a leggere «{file}»: {reason}.", file, systemError);
+    return fileError(L10n::key("Non riesco a leggere «{file}»: {reason}."), file, systemError);
 }
 
 FileError FileError::writing(const std::filesystem::path& file, int systemError) {
-    return fileError("Non riesco a scrivere «{file}»: {reason}.", file, systemError);
+    return fileError(L10n::key("Non riesco a scrivere «{file}»: {reason}."), file, systemError);
 }
 
 FileError FileError::moving(const std::filesystem::path& file, int systemError) {
-    return fileError("Non riesco a spostare «{file}»: {reason}.", file, systemError);
+    return fileError(L10n::key("Non riesco a spostare «{file}»: {reason}."), file, systemError);
 }
 
 void writeFileAtomically(const std::filesystem::path& file, std::string_view bytes) {

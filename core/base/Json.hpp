@@ -5,6 +5,7 @@
 
 #include "core/base/Decimal.hpp"
 #include "core/base/Instant.hpp"
+#include "core/base/Localization.hpp"
 #include "core/base/UserError.hpp"
 #include "core/base/Uuid.hpp"
 
@@ -81,7 +82,7 @@ T convert(const Json& value, std::string_view key) {
     try {
         return value.get<T>();
     } catch (const nlohmann::json::exception&) {
-        fail(key, "ha un valore del tipo sbagliato");
+        fail(key, L10n::key("ha un valore del tipo sbagliato"));
     }
 }
 
@@ -89,7 +90,7 @@ template <typename T>
 T required(const Json& object, std::string_view key) {
     const auto& checked = requireObject(object);
     auto found = checked.find(key);
-    if (found == checked.end()) fail(key, "manca");
+    if (found == checked.end()) fail(key, L10n::key("manca"));
     return convert<T>(*found, key);
 }
 

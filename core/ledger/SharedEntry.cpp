@@ -19,9 +19,9 @@ struct KindTexts {
 };
 
 constexpr std::array<KindTexts, 3> kindTexts{{
-    {Kind::paymentReceived, "paymentReceived", "Mi ha restituito", "Ti ha restituito"},
-    {Kind::paymentMade, "paymentMade", "Gli ho restituito", "Gli hai restituito"},
-    {Kind::theyPaidForMe, "theyPaidForMe", "Ha pagato per me", "Ha pagato per te"},
+    {Kind::paymentReceived, "paymentReceived", L10n::key("Mi ha restituito"), L10n::key("Ti ha restituito")},
+    {Kind::paymentMade, "paymentMade", L10n::key("Gli ho restituito"), L10n::key("Gli hai restituito")},
+    {Kind::theyPaidForMe, "theyPaidForMe", L10n::key("Ha pagato per me"), L10n::key("Ha pagato per te")},
 }};
 
 const KindTexts& textsOf(Kind kind) {

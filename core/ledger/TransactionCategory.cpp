@@ -38,20 +38,20 @@ const std::vector<TransactionCategory>& builtInCategories() {
     using enum TransactionKind;
     // Names are looked up once, with whatever catalogue is installed at that moment.
     static const std::vector<TransactionCategory> categories{
-        localised("spesa", "Spesa alimentare", "cart", expense),
-        localised("casa", "Casa", "house", expense),
-        localised("bollette", "Bollette", "bolt", expense),
-        localised("trasporti", "Trasporti", "car", expense),
-        localised("ristoranti", "Ristoranti e bar", "fork.knife", expense),
-        localised("svago", "Svago", "theatermasks", expense),
-        localised("abbonamenti", "Abbonamenti", "repeat", expense),
-        localised("salute", "Salute", "cross.case", expense),
-        localised("abbigliamento", "Abbigliamento", "tshirt", expense),
-        localised(otherExpensesCategoryID, "Altre uscite", "ellipsis.circle", expense),
-        localised(salaryCategoryID, "Stipendio", "briefcase", income),
-        localised(unemploymentBenefitCategoryID, "Indennità di disoccupazione",
+        localised("spesa", L10n::key("Spesa alimentare"), "cart", expense),
+        localised("casa", L10n::key("Casa"), "house", expense),
+        localised("bollette", L10n::key("Bollette"), "bolt", expense),
+        localised("trasporti", L10n::key("Trasporti"), "car", expense),
+        localised("ristoranti", L10n::key("Ristoranti e bar"), "fork.knife", expense),
+        localised("svago", L10n::key("Svago"), "theatermasks", expense),
+        localised("abbonamenti", L10n::key("Abbonamenti"), "repeat", expense),
+        localised("salute", L10n::key("Salute"), "cross.case", expense),
+        localised("abbigliamento", L10n::key("Abbigliamento"), "tshirt", expense),
+        localised(otherExpensesCategoryID, L10n::key("Altre uscite"), "ellipsis.circle", expense),
+        localised(salaryCategoryID, L10n::key("Stipendio"), "briefcase", income),
+        localised(unemploymentBenefitCategoryID, L10n::key("Indennità di disoccupazione"),
                   "person.badge.clock", income),
-        localised(otherIncomeCategoryID, "Altre entrate", "plus.circle", income),
+        localised(otherIncomeCategoryID, L10n::key("Altre entrate"), "plus.circle", income),
     };
     return categories;
 }
@@ -65,7 +65,7 @@ const TransactionCategory* builtInCategory(std::string_view id) {
 
 const TransactionCategory& transferCategory() {
     static const TransactionCategory category =
-        localised(transferCategoryID, "Giroconto", "arrow.left.arrow.right", TransactionKind::expense);
+        localised(transferCategoryID, L10n::key("Giroconto"), "arrow.left.arrow.right", TransactionKind::expense);
     return category;
 }
 

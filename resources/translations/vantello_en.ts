@@ -1,15 +1,370 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en_US" sourcelanguage="it_IT">
-<context>
-    <name>Vantello</name>
-    <message>
-        <source>Benvenuto in Vantello</source>
-        <translation>Welcome to Vantello</translation>
-    </message>
-    <message>
-        <source>I tuoi dati restano su questo computer.</source>
-        <translation>Your data stays on this computer.</translation>
-    </message>
-</context>
+    <context>
+        <name>Vantello</name>
+        <message>
+            <source>Abbigliamento</source>
+            <translation>Clothing</translation>
+        </message>
+        <message>
+            <source>Abbonamenti</source>
+            <translation>Subscriptions</translation>
+        </message>
+        <message>
+            <source>Altre entrate</source>
+            <translation>Other income</translation>
+        </message>
+        <message>
+            <source>Altre uscite</source>
+            <translation>Other expenses</translation>
+        </message>
+        <message>
+            <source>Anno-mese-giorno</source>
+            <translation>Year-month-day</translation>
+        </message>
+        <message>
+            <source>Benvenuto in Vantello</source>
+            <translation>Welcome to Vantello</translation>
+        </message>
+        <message>
+            <source>Bollette</source>
+            <translation>Bills</translation>
+        </message>
+        <message>
+            <source>C'è già una persona con questo nome.</source>
+            <translation>There is already a person with this name.</translation>
+        </message>
+        <message>
+            <source>Cambio non disponibile: la BCE pubblica gli ultimi 90 giorni e serve internet. Scrivilo a mano.</source>
+            <translation>Exchange rate not available: the ECB publishes the last 90 days and an internet connection is needed. Type it by hand.</translation>
+        </message>
+        <message>
+            <source>Casa</source>
+            <translation>Home</translation>
+        </message>
+        <message>
+            <source>Categoria</source>
+            <translation>Category</translation>
+        </message>
+        <message>
+            <source>Conto principale</source>
+            <translation>Main account</translation>
+        </message>
+        <message>
+            <source>Data</source>
+            <translation>Date</translation>
+        </message>
+        <message>
+            <source>Data non leggibile: «{text}»</source>
+            <translation>Unreadable date: “{text}”</translation>
+        </message>
+        <message>
+            <source>Data non valida: {text}</source>
+            <translation>Invalid date: {text}</translation>
+        </message>
+        <message>
+            <source>Dati non validi: era atteso un oggetto JSON.</source>
+            <translation>Invalid data: a JSON object was expected.</translation>
+        </message>
+        <message>
+            <source>Dati non validi: la chiave «{key}» {problem}.</source>
+            <translation>Invalid data: the key “{key}” {problem}.</translation>
+        </message>
+        <message>
+            <source>Due colonne: entrate e uscite</source>
+            <translation>Two columns: income and expenses</translation>
+        </message>
+        <message>
+            <source>Entrata</source>
+            <translation>Income</translation>
+        </message>
+        <message>
+            <source>Esiste già un conto con questo nome.</source>
+            <translation>An account with this name already exists.</translation>
+        </message>
+        <message>
+            <source>Esiste già una categoria con questo nome.</source>
+            <translation>A category with this name already exists.</translation>
+        </message>
+        <message>
+            <source>Frequenza sconosciuta: {text}</source>
+            <translation>Unknown frequency: {text}</translation>
+        </message>
+        <message>
+            <source>Giorno/mese/anno</source>
+            <translation>Day/month/year</translation>
+        </message>
+        <message>
+            <source>Giroconto</source>
+            <translation>Transfer</translation>
+        </message>
+        <message>
+            <source>Gli hai restituito</source>
+            <translation>You paid back</translation>
+        </message>
+        <message>
+            <source>Gli ho restituito</source>
+            <translation>I paid back</translation>
+        </message>
+        <message>
+            <source>Ha pagato per me</source>
+            <translation>Paid for me</translation>
+        </message>
+        <message>
+            <source>Ha pagato per te</source>
+            <translation>Paid for you</translation>
+        </message>
+        <message>
+            <source>I tuoi dati restano su questo computer.</source>
+            <translation>Your data stays on this computer.</translation>
+        </message>
+        <message>
+            <source>Identificativo non valido: {text}</source>
+            <translation>Invalid identifier: {text}</translation>
+        </message>
+        <message>
+            <source>Il budget si imposta solo sulle categorie di uscita.</source>
+            <translation>Budgets can only be set on expense categories.</translation>
+        </message>
+        <message>
+            <source>Il conto non esiste.</source>
+            <translation>The account does not exist.</translation>
+        </message>
+        <message>
+            <source>Il conto principale non si può eliminare.</source>
+            <translation>The main account cannot be deleted.</translation>
+        </message>
+        <message>
+            <source>Il file dei cambi non contiene nessun cambio della BCE.</source>
+            <translation>The exchange-rate file contains no ECB rates.</translation>
+        </message>
+        <message>
+            <source>Il file dei movimenti viene da una versione più recente di Vantello (formato {n}).</source>
+            <translation>The movements file comes from a newer version of Vantello (format {n}).</translation>
+        </message>
+        <message>
+            <source>Il file non è un JSON valido (riga {line}, colonna {column}).</source>
+            <translation>The file is not valid JSON (line {line}, column {column}).</translation>
+        </message>
+        <message>
+            <source>Il file non è un JSON valido.</source>
+            <translation>The file is not valid JSON.</translation>
+        </message>
+        <message>
+            <source>Il movimento non esiste più.</source>
+            <translation>The movement no longer exists.</translation>
+        </message>
+        <message>
+            <source>Il nome del conto è troppo lungo (massimo 40 caratteri).</source>
+            <translation>The account name is too long (40 characters at most).</translation>
+        </message>
+        <message>
+            <source>Il nome della categoria è troppo lungo (massimo 40 caratteri).</source>
+            <translation>The category name is too long (40 characters at most).</translation>
+        </message>
+        <message>
+            <source>Il server dei cambi della BCE non ha risposto in tempo.</source>
+            <translation>The ECB exchange-rate server did not answer in time.</translation>
+        </message>
+        <message>
+            <source>Il server dei cambi ha risposto con l'errore HTTP {status}.</source>
+            <translation>The exchange-rate server answered with HTTP error {status}.</translation>
+        </message>
+        <message>
+            <source>Importo</source>
+            <translation>Amount</translation>
+        </message>
+        <message>
+            <source>Importo assente o uguale a zero.</source>
+            <translation>Amount missing or zero.</translation>
+        </message>
+        <message>
+            <source>Importo non leggibile: «{text}»</source>
+            <translation>Unreadable amount: “{text}”</translation>
+        </message>
+        <message>
+            <source>Importo non valido: {text}</source>
+            <translation>Invalid amount: {text}</translation>
+        </message>
+        <message>
+            <source>Indennità di disoccupazione</source>
+            <translation>Unemployment benefit</translation>
+        </message>
+        <message>
+            <source>L'importo deve essere maggiore di zero.</source>
+            <translation>The amount must be greater than zero.</translation>
+        </message>
+        <message>
+            <source>La categoria non corrisponde al tipo di movimento.</source>
+            <translation>The category does not match the kind of movement.</translation>
+        </message>
+        <message>
+            <source>La categoria «{id}» non esiste.</source>
+            <translation>The category “{id}” does not exist.</translation>
+        </message>
+        <message>
+            <source>La fine della ricorrenza deve venire dopo l'inizio.</source>
+            <translation>The end of the recurrence must come after its start.</translation>
+        </message>
+        <message>
+            <source>La persona non esiste più.</source>
+            <translation>The person no longer exists.</translation>
+        </message>
+        <message>
+            <source>Le categorie predefinite non si possono modificare.</source>
+            <translation>Built-in categories cannot be changed.</translation>
+        </message>
+        <message>
+            <source>Le quote degli altri non possono superare la spesa.</source>
+            <translation>The others' shares cannot exceed the expense.</translation>
+        </message>
+        <message>
+            <source>Mese/giorno/anno</source>
+            <translation>Month/day/year</translation>
+        </message>
+        <message>
+            <source>Mi ha restituito</source>
+            <translation>Paid me back</translation>
+        </message>
+        <message>
+            <source>Non riesco a leggere «{file}»: {reason}.</source>
+            <translation>I cannot read “{file}”: {reason}.</translation>
+        </message>
+        <message>
+            <source>Non riesco a leggere «{file}»…</source>
+            <translation>I cannot read “{file}”…</translation>
+        </message>
+        <message>
+            <source>Non riesco a scrivere «{file}»: {reason}.</source>
+            <translation>I cannot write “{file}”: {reason}.</translation>
+        </message>
+        <message>
+            <source>Non riesco a spostare «{file}»: {reason}.</source>
+            <translation>I cannot move “{file}”: {reason}.</translation>
+        </message>
+        <message>
+            <source>Non trovo la cartella dei dati.</source>
+            <translation>I cannot find the data folder.</translation>
+        </message>
+        <message>
+            <source>Non è stato possibile scaricare i cambi della BCE.</source>
+            <translation>The ECB exchange rates could not be downloaded.</translation>
+        </message>
+        <message>
+            <source>Nota</source>
+            <translation>Note</translation>
+        </message>
+        <message>
+            <source>Periodo di ricerca sconosciuto: {text}</source>
+            <translation>Unknown search period: {text}</translation>
+        </message>
+        <message>
+            <source>Questo movimento esiste già.</source>
+            <translation>This movement already exists.</translation>
+        </message>
+        <message>
+            <source>Ristoranti e bar</source>
+            <translation>Restaurants and bars</translation>
+        </message>
+        <message>
+            <source>Salute</source>
+            <translation>Health</translation>
+        </message>
+        <message>
+            <source>Scegli il conto di destinazione del giroconto.</source>
+            <translation>Choose the destination account of the transfer.</translation>
+        </message>
+        <message>
+            <source>Scegli la colonna dell'importo.</source>
+            <translation>Choose the amount column.</translation>
+        </message>
+        <message>
+            <source>Scegli la colonna della data.</source>
+            <translation>Choose the date column.</translation>
+        </message>
+        <message>
+            <source>Scegli le colonne di entrate e uscite.</source>
+            <translation>Choose the income and expense columns.</translation>
+        </message>
+        <message>
+            <source>Scrivi il testo da cercare nella descrizione.</source>
+            <translation>Write the text to look for in the description.</translation>
+        </message>
+        <message>
+            <source>Scrivi un nome per il conto.</source>
+            <translation>Write a name for the account.</translation>
+        </message>
+        <message>
+            <source>Scrivi un nome per la categoria.</source>
+            <translation>Write a name for the category.</translation>
+        </message>
+        <message>
+            <source>Scrivi un nome.</source>
+            <translation>Write a name.</translation>
+        </message>
+        <message>
+            <source>Si possono dividere solo le uscite.</source>
+            <translation>Only expenses can be shared.</translation>
+        </message>
+        <message>
+            <source>Spesa alimentare</source>
+            <translation>Groceries</translation>
+        </message>
+        <message>
+            <source>Stipendio</source>
+            <translation>Salary</translation>
+        </message>
+        <message>
+            <source>Svago</source>
+            <translation>Leisure</translation>
+        </message>
+        <message>
+            <source>Ti ha restituito</source>
+            <translation>Paid you back</translation>
+        </message>
+        <message>
+            <source>Tipo</source>
+            <translation>Type</translation>
+        </message>
+        <message>
+            <source>Tipo di movimento sconosciuto: {text}</source>
+            <translation>Unknown kind of movement: {text}</translation>
+        </message>
+        <message>
+            <source>Tipo di voce condivisa sconosciuto: {text}</source>
+            <translation>Unknown kind of shared entry: {text}</translation>
+        </message>
+        <message>
+            <source>Trasporti</source>
+            <translation>Transport</translation>
+        </message>
+        <message>
+            <source>Un altro programma sta modificando questi dati. Chiudilo e riprova.</source>
+            <translation>Another program is changing this data. Close it and try again.</translation>
+        </message>
+        <message>
+            <source>Un giroconto va tra due conti diversi.</source>
+            <translation>A transfer goes between two different accounts.</translation>
+        </message>
+        <message>
+            <source>Una colonna, con il meno per le uscite</source>
+            <translation>One column, with a minus for expenses</translation>
+        </message>
+        <message>
+            <source>Uscita</source>
+            <translation>Expense</translation>
+        </message>
+        <message>
+            <source>ha un valore del tipo sbagliato</source>
+            <translation>has a value of the wrong type</translation>
+        </message>
+        <message>
+            <source>manca</source>
+            <translation>is missing</translation>
+        </message>
+        <message>
+            <source>«{file}» non contiene righe da importare.</source>
+            <translation>“{file}” contains no rows to import.</translation>
+        </message>
+    </context>
 </TS>

@@ -1,6 +1,8 @@
 #include "cli/Commands.hpp"
 
 #include "cli/CheckCommand.hpp"
+#include "cli/ExportCommand.hpp"
+#include "cli/ImportCommand.hpp"
 #include "cli/RatesCommand.hpp"
 
 namespace vantello::cli {
@@ -14,6 +16,8 @@ constexpr const char* usage =
     "\n"
     "Comandi:\n"
     "  check        mostra che cosa contiene il file dei movimenti e i saldi dei conti\n"
+    "  import       legge un estratto conto in CSV e ne aggiunge i movimenti a un conto\n"
+    "  export       scrive in CSV i movimenti di un mese o tutti\n"
     "  rates        mostra il cambio della BCE di una valuta in un giorno e converte un importo\n"
     "\n"
     "Opzioni:\n"
@@ -33,6 +37,8 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
     }
     const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
     if (arguments.front() == "check") return runCheck(rest, out, err);
+    if (arguments.front() == "import") return runImport(rest, out, err);
+    if (arguments.front() == "export") return runExport(rest, out, err);
     if (arguments.front() == "rates") return runRates(rest, out, err);
     err << "Comando sconosciuto: " << arguments.front() << "\n\n" << usage;
     return 2;

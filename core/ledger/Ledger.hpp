@@ -103,6 +103,22 @@ public:
     // kind, or nothing when no rule applies.
     [[nodiscard]] std::optional<std::string> categoryByRules(std::string_view note, TransactionKind kind) const;
 
+    // ---- statement import
+    // What became of the imported movements: each one lands in exactly one count.
+    struct ImportResult {
+        int transfers = 0;   // merged with the other half of a transfer already in the ledger
+        int added = 0;
+        int duplicates = 0;  // already in the ledger (same day, kind, amount, note, account)
+        int invalid = 0;     // refused: identifier already present or failed validation
+        bool operator==(const ImportResult&) const = default;
+    };
+    // Files the movements of a statement on `accountID`, lets the category rules re-file those in
+    // a fallback category, skips duplicates and, with `detectTransfers`, turns an opposite
+    // movement of the same amount on another account within three days into one transfer. Never
+    // throws; days are taken in `calendar`. Kept in core/exchange/ImportMerge.cpp.
+    ImportResult importTransactions(std::vector<Transaction> transactions, std::string_view accountID,
+                                    bool detectTransfers, const Calendar& calendar);
+
     // ---- people and shared expenses
     Person addPerson(std::string_view name);
     void renamePerson(const Uuid& id, std::string_view name);

@@ -1,0 +1,91 @@
+#include "cli/ExportCommand.hpp"
+
+#include "cli/Arguments.hpp"
+#include "core/base/AtomicFile.hpp"
+#include "core/base/Calendar.hpp"
+#include "core/exchange/CSVExport.hpp"
+#include "core/ledger/Ledger.hpp"
+#include "core/ledger/LedgerStore.hpp"
+
+#include <charconv>
+#include <optional>
+
+namespace vantello::cli {
+
+namespace {
+
+// "AAAA-MM" exactly: four digits, a hyphen, two digits, a month 1...12.
+std::optional<CivilDate> monthOf(std::string_view text) {
+    if (text.size() != 7 || text[4] != '-') return std::nullopt;
+    int year = 0;
+    int month = 0;
+    const auto digits = [](std::string_view part, int& value) {
+        const auto [end, error] = std::from_chars(part.data(), part.data() + part.size(), value);
+        return error == std::errc() && end == part.data() + part.size();
+    };
+    if (!digits(text.substr(0, 4), year) || !digits(text.substr(5, 2), month)) return std::nullopt;
+    if (year < 1 || month < 1 || month > 12) return std::nullopt;
+    return CivilDate{year, month, 1};
+}
+
+}  // namespace
+
+int runExport(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
+    Arguments parsed;
+    std::optional<CivilDate> month;
+    std::string localeName = "it_IT";
+    try {
+        ArgumentRules rules;
+        rules.flags = {"--all", "--help"};
+        rules.valueOptions = {"--month", "--locale", "--output"};
+        parsed = Arguments::parse(arguments, rules);
+        if (parsed.has("--help")) {
+            out << exportUsage;
+            return 0;
+        }
+        const auto monthText = parsed.value("--month");
+        if (monthText.has_value() == parsed.has("--all")) throw ArgumentError("Scegli --month AAAA-MM oppure --all.");
+        if (monthText) {
+            month = monthOf(*monthText);
+            if (!month) throw ArgumentError("Valore non valido per --month: «" + *monthText + "» (serve AAAA-MM).");
+        }
+        if (const auto locale = parsed.value("--locale")) {
+            if (*locale == "en") {
+                localeName = "en_US";
+            } else if (*locale != "it") {
+                throw ArgumentError("Valore non valido per --locale: «" + *locale + "» (it oppure en).");
+            }
+        }
+    } catch (const ArgumentError& error) {
+        err << error.message() << "\n\n" << exportUsage;
+        return 2;
+    }
+
+    try {
+        const Calendar calendar = Calendar::current();
+        // Reading needs no lock; only the output file is written.
+        const Ledger ledger(LedgerStore(parsed.dataFolder() / LedgerStore::fileName).load());
+        std::optional<DateInterval> interval;
+        if (month) {
+            const auto start = calendar.date(*month, 12);
+            if (!start) throw UserError("Il mese " + *parsed.value("--month") + " non esiste nel calendario.");
+            interval = calendar.monthInterval(*start);
+        }
+        std::vector<Transaction> chosen;
+        for (const Transaction& transaction : ledger.transactions()) {
+            if (!interval || interval->contains(transaction.date)) chosen.push_back(transaction);
+        }
+        const std::string text = CSVExport::text(chosen, ledger.allCategories(), calendar, localeName);
+        if (const auto output = parsed.value("--output")) {
+            writeFileAtomically(*output, text);
+        } else {
+            out << text;
+        }
+        return 0;
+    } catch (const std::exception& error) {
+        err << error.what() << '\n';
+        return 1;
+    }
+}
+
+}  // namespace vantello::cli

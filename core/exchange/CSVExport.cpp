@@ -1,0 +1,81 @@
+#include "core/exchange/CSVExport.hpp"
+
+#include "core/base/Localization.hpp"
+#include "core/exchange/CSV.hpp"
+
+#include <unicode/dcfmtsym.h>
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <string_view>
+#include <unordered_map>
+
+namespace vantello::CSVExport {
+
+namespace {
+
+std::string dayText(const Calendar& calendar, Instant date) {
+    const CivilDate day = calendar.civilDate(date);
+    char text[16];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d", day.year, day.month, day.day);
+    return text;
+}
+
+// Two fraction digits from the exact value, then the locale's separator in place of the point.
+std::string amountText(const Decimal& amount, const std::string& separator) {
+    std::string text = amount.toFixed(2, '.');
+    const auto point = text.find('.');
+    if (point != std::string::npos) text.replace(point, 1, separator);
+    return text;
+}
+
+// The locale's decimal separator; "." for a locale ICU does not know or that has none.
+std::string decimalSeparator(std::string_view localeName) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::DecimalFormatSymbols symbols(icu::Locale(std::string(localeName).c_str()), status);
+    if (U_FAILURE(status)) return ".";
+    std::string separator;
+    symbols.getConstSymbol(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol).toUTF8String(separator);
+    return separator.empty() ? "." : separator;
+}
+
+}  // namespace
+
+std::string text(const std::vector<Transaction>& transactions, const std::vector<TransactionCategory>& categories,
+                 const Calendar& calendar, std::string_view localeName, Order order) {
+    const std::string separator = decimalSeparator(localeName);
+    const char fieldSeparator = separator == "," ? ';' : ',';
+
+    std::unordered_map<std::string_view, std::string_view> names;
+    for (const TransactionCategory& category : categories) names.try_emplace(category.id, category.name);
+    names.insert_or_assign(transferCategoryID, transferCategory().name);
+
+    std::vector<const Transaction*> rows;
+    rows.reserve(transactions.size());
+    for (const Transaction& transaction : transactions) rows.push_back(&transaction);
+    if (order == Order::byDate) {
+        std::stable_sort(rows.begin(), rows.end(),
+                         [](const Transaction* a, const Transaction* b) { return a->date < b->date; });
+    }
+
+    const std::string income = L10n::tr("Entrata");
+    const std::string expense = L10n::tr("Uscita");
+    std::string result = CSV::line({L10n::tr("Data"), L10n::tr("Tipo"), L10n::tr("Categoria"),
+                                    L10n::tr("Importo"), L10n::tr("Nota")},
+                                   fieldSeparator);
+    for (const Transaction* transaction : rows) {
+        const auto name = names.find(transaction->categoryID);
+        result.append("\r\n");
+        result.append(CSV::line({dayText(calendar, transaction->date),
+                                 transaction->kind == TransactionKind::income ? income : expense,
+                                 name != names.end() ? std::string(name->second) : transaction->categoryID,
+                                 amountText(transaction->amount, separator), transaction->note},
+                                fieldSeparator));
+    }
+    return result;
+}
+
+}  // namespace vantello::CSVExport

@@ -14,10 +14,10 @@ namespace {
 constexpr std::size_t maximumCategoryNameLength = 40;
 
 std::optional<std::size_t> indexOf(const SharedList<Transaction>& transactions, const Uuid& id) {
-    for (std::size_t i = 0; i < transactions.size(); ++i) {
-        if (transactions[i].id == id) return i;
-    }
-    return std::nullopt;
+    const auto found = std::find_if(transactions.begin(), transactions.end(),
+                                    [&id](const Transaction& transaction) { return transaction.id == id; });
+    if (found == transactions.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - transactions.begin());
 }
 
 std::vector<TransactionCategory>::const_iterator findCustom(const std::vector<TransactionCategory>& custom,

@@ -1,11 +1,8 @@
 #include "core/exchange/CSVExport.hpp"
 
+#include "core/base/DecimalFormat.hpp"
 #include "core/base/Localization.hpp"
 #include "core/exchange/CSV.hpp"
-
-#include <unicode/dcfmtsym.h>
-#include <unicode/locid.h>
-#include <unicode/unistr.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -22,24 +19,6 @@ std::string dayText(const Calendar& calendar, Instant date) {
     char text[16];
     std::snprintf(text, sizeof text, "%04d-%02d-%02d", day.year, day.month, day.day);
     return text;
-}
-
-// Two fraction digits from the exact value, then the locale's separator in place of the point.
-std::string amountText(const Decimal& amount, const std::string& separator) {
-    std::string text = amount.toFixed(2, '.');
-    const auto point = text.find('.');
-    if (point != std::string::npos) text.replace(point, 1, separator);
-    return text;
-}
-
-// The locale's decimal separator; "." for a locale ICU does not know or that has none.
-std::string decimalSeparator(std::string_view localeName) {
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::DecimalFormatSymbols symbols(icu::Locale(std::string(localeName).c_str()), status);
-    if (U_FAILURE(status)) return ".";
-    std::string separator;
-    symbols.getConstSymbol(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol).toUTF8String(separator);
-    return separator.empty() ? "." : separator;
 }
 
 }  // namespace
@@ -72,7 +51,7 @@ std::string text(const std::vector<Transaction>& transactions, const std::vector
         result.append(CSV::line({dayText(calendar, transaction->date),
                                  transaction->kind == TransactionKind::income ? income : expense,
                                  name != names.end() ? std::string(name->second) : transaction->categoryID,
-                                 amountText(transaction->amount, separator), transaction->note},
+                                 plainAmountText(transaction->amount, separator), transaction->note},
                                 fieldSeparator));
     }
     return result;

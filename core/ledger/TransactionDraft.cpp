@@ -1,12 +1,9 @@
 #include "core/ledger/TransactionDraft.hpp"
 
+#include "core/base/DecimalFormat.hpp"
 #include "core/base/Text.hpp"
 #include "core/ledger/AmountParser.hpp"
 #include "core/ledger/TransactionCategory.hpp"
-
-#include <unicode/dcfmtsym.h>
-#include <unicode/locid.h>
-#include <unicode/unistr.h>
 
 #include <utility>
 
@@ -14,23 +11,6 @@ namespace vantello {
 namespace {
 
 constexpr std::string_view euroCode = "EUR";
-
-std::string decimalSeparator(std::string_view localeName) {
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::DecimalFormatSymbols symbols(icu::Locale(std::string(localeName).c_str()), status);
-    if (U_FAILURE(status)) return ".";
-    std::string separator;
-    symbols.getConstSymbol(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol).toUTF8String(separator);
-    return separator.empty() ? "." : separator;
-}
-
-// Two fraction digits and no grouping: "1250,00" in Italian, "1250.00" in English.
-std::string editableText(const Decimal& amount, const std::string& separator) {
-    std::string text = amount.toFixed(2, '.');
-    const auto point = text.find('.');
-    if (point != std::string::npos) text.replace(point, 1, separator);
-    return text;
-}
 
 }  // namespace
 
@@ -56,8 +36,8 @@ TransactionDraft::TransactionDraft(const Transaction& transaction, std::string_v
       shares(transaction.shares),
       currency(transaction.currency) {
     const auto separator = decimalSeparator(localeName);
-    amountText = editableText(transaction.amount, separator);
-    if (transaction.originalAmount) originalAmountText = editableText(*transaction.originalAmount, separator);
+    amountText = plainAmountText(transaction.amount, separator);
+    if (transaction.originalAmount) originalAmountText = plainAmountText(*transaction.originalAmount, separator);
 }
 
 std::optional<Decimal> TransactionDraft::parsedAmount() const {

@@ -1,6 +1,7 @@
 // "check" reports what a data folder's ledger holds, or exactly why it cannot be read.
 
 #include "cli/Commands.hpp"
+#include "CliRunner.hpp"
 #include "core/base/Json.hpp"
 #include "core/ledger/LedgerStore.hpp"
 
@@ -15,30 +16,13 @@ namespace {
 using namespace vantello;
 namespace fs = std::filesystem;
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-class CheckCommand : public ::testing::Test {
+class CheckCommand : public vantello::testing::TemporaryFolderTest {
 protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "vantello-check-XXXXXX").string();
-        folder = ::mkdtemp(pattern.data());
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
-    Outcome check(std::vector<std::string> options) const {
+    vantello::testing::CliOutcome check(std::vector<std::string> options) const {
         std::vector<std::string> arguments{"check", "--data-dir", folder.string()};
         arguments.insert(arguments.end(), options.begin(), options.end());
-        std::ostringstream out;
-        std::ostringstream err;
-        const int status = cli::run(arguments, out, err);
-        return {status, out.str(), err.str()};
+        return vantello::testing::runCli(arguments);
     }
-
-    fs::path folder;
 };
 
 Transaction movement(TransactionKind kind, const char* amount, std::string account) {

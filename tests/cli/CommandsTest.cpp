@@ -1,6 +1,6 @@
 // The command line answers --help and --version, and refuses what it does not know.
 
-#include "cli/Commands.hpp"
+#include "CliRunner.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,18 +9,7 @@
 
 namespace {
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-Outcome runCli(std::vector<std::string> arguments) {
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = vantello::cli::run(arguments, out, err);
-    return {status, out.str(), err.str()};
-}
+using vantello::testing::runCli;
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 // writes the chosen movements as CSV.
 
 #include "cli/Commands.hpp"
+#include "CliRunner.hpp"
 #include "core/base/AtomicFile.hpp"
 #include "core/base/Json.hpp"
 
@@ -16,34 +17,21 @@ namespace {
 using namespace vantello;
 namespace fs = std::filesystem;
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-class ImportExportCommand : public ::testing::Test {
+class ImportExportCommand : public vantello::testing::TemporaryFolderTest {
 protected:
     void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "vantello-import-XXXXXX").string();
-        folder = ::mkdtemp(pattern.data());
+        TemporaryFolderTest::SetUp();
         statement = folder / "estratto.csv";
         std::ofstream(statement) << "Data;Descrizione;Importo;Note\n"
                                     "05/03/2024;POS ESSELUNGA;-12,50;\n"
                                     "06/03/2024;Stipendio;1.500,00;\n"
                                     "31/02/2024;Boh;-3;\n";
     }
-    void TearDown() override { fs::remove_all(folder); }
-
-    Outcome run(std::vector<std::string> arguments) const {
+    vantello::testing::CliOutcome run(std::vector<std::string> arguments) const {
         arguments.insert(arguments.end(), {"--data-dir", (folder / "dati").string()});
-        std::ostringstream out;
-        std::ostringstream err;
-        const int status = cli::run(arguments, out, err);
-        return {status, out.str(), err.str()};
+        return vantello::testing::runCli(arguments);
     }
 
-    fs::path folder;
     fs::path statement;
 };
 

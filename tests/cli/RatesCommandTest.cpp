@@ -1,6 +1,6 @@
 // "rates" answers from a saved feed (the download itself is covered by the core's tests).
 
-#include "cli/Commands.hpp"
+#include "CliRunner.hpp"
 #include "core/base/Json.hpp"
 
 #include <gtest/gtest.h>
@@ -11,19 +11,10 @@ namespace {
 
 using namespace vantello;
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-Outcome rates(std::vector<std::string> options) {
+vantello::testing::CliOutcome rates(std::vector<std::string> options) {
     std::vector<std::string> arguments{"rates"};
     arguments.insert(arguments.end(), options.begin(), options.end());
-    std::ostringstream out;
-    std::ostringstream err;
-    const int status = cli::run(arguments, out, err);
-    return {status, out.str(), err.str()};
+    return vantello::testing::runCli(arguments);
 }
 
 const std::string feed = VANTELLO_TEST_DATA_DIR "/rates/eurofxref-sample.xml";

@@ -100,7 +100,7 @@ public:
     // Re-files the movements sitting in a fallback category; returns how many moved.
     int applyCategoryRules();
     // The category the rules give a movement of `kind` with `note` filed in the fallback of its
-    // kind, or nothing when no rule applies.
+    // kind, or nothing when no rule applies. CategoryRuleMatcher answers this for many notes.
     [[nodiscard]] std::optional<std::string> categoryByRules(std::string_view note, TransactionKind kind) const;
 
     // ---- statement import

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -78,5 +79,20 @@ void LedgerEditOnMainThread(benchmark::State& state) {
     }
 }
 BENCHMARK(LedgerEditOnMainThread)->Unit(benchmark::kMicrosecond);
+
+// The same edit if the movements were a plain vector copied whole: the reference that the
+// shared chunks of the ledger's movement list are measured against.
+void PlainVectorEditForComparison(benchmark::State& state) {
+    const std::vector<Transaction> movements = Fixture::shared().data.transactions.toVector();
+    const Transaction added = bench::LedgerGenerator(7).movement(instantFromUnixSeconds(1'735'000'000));
+    for (auto _ : state) {
+        std::vector<Transaction> copy = movements;
+        copy.push_back(added);
+        const bool changed = !(copy == movements);
+        benchmark::DoNotOptimize(changed);
+        benchmark::DoNotOptimize(copy);
+    }
+}
+BENCHMARK(PlainVectorEditForComparison)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -6,25 +6,6 @@
 namespace vantello {
 namespace {
 
-TEST(TransactionCategory, BuiltInListIsFixedAndOrdered) {
-    std::vector<std::string> ids;
-    for (const auto& category : builtInCategories()) ids.push_back(category.id);
-    EXPECT_EQ(ids, (std::vector<std::string>{"spesa", "casa", "bollette", "trasporti", "ristoranti", "svago",
-                                             "abbonamenti", "salute", "abbigliamento", "altre-uscite",
-                                             "stipendio", "disoccupazione", "altre-entrate"}));
-    EXPECT_EQ(*builtInCategory("disoccupazione"),
-              (TransactionCategory{"disoccupazione", "Indennità di disoccupazione", "person.badge.clock",
-                                   TransactionKind::income}));
-    for (auto kind : allTransactionKinds) EXPECT_EQ(builtInCategory(fallbackCategoryID(kind))->kind, kind);
-    EXPECT_EQ(fallbackCategoryID(TransactionKind::income), "altre-entrate");
-}
-
-TEST(TransactionCategory, TransferCategoryStandsApart) {
-    EXPECT_EQ(transferCategory(), (TransactionCategory{"giroconto", "Giroconto", "arrow.left.arrow.right",
-                                                       TransactionKind::expense}));
-    EXPECT_EQ(builtInCategory(transferCategoryID), nullptr);
-}
-
 TEST(TransactionCategory, NamesAreLookedUpOnceOnFirstUse) {
     (void)builtInCategories();
     L10n::install([](std::string_view) { return std::string("tradotto"); });

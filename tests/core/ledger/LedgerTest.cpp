@@ -159,6 +159,12 @@ TEST(Ledger, MovementsAreAppendedReplacedInPlaceAndDeleted) {
     ledger.deleteTransaction(old.id);  // already gone: ignored
     EXPECT_EQ(ledger.transactions().toVector(), std::vector<Transaction>{newer});
     EXPECT_EQ(codeThrownBy([&] { ledger.update(moved); }), AnyCode{LedgerErrorCode::notFound});
+    try {
+        ledger.add(movement("nessuna", 5, 0));
+        ADD_FAILURE() << "an unknown category was accepted";
+    } catch (const LedgerError& error) {
+        EXPECT_EQ(error.message(), "La categoria «nessuna» non esiste.");
+    }
 }
 
 TEST(Ledger, CategoryNamesClashOnlyWithinTheirKind) {

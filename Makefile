@@ -20,6 +20,8 @@ run: configure
 	cmake --build $(BUILD_DIR) -j $(JOBS) --target vantello
 	$(BUILD_DIR)/app/vantello
 
+# Warnings fail the build of the tests, so that none slips in.
+test: CMAKE_FLAGS += -DVANTELLO_WARNINGS_AS_ERRORS=ON
 test: build
 	ctest --test-dir $(BUILD_DIR) --output-on-failure -j $(JOBS)
 

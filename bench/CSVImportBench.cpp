@@ -3,9 +3,9 @@
 // and 100,000 rows of realistic Italian bank lines; the cost should grow linearly.
 
 #include "core/base/Calendar.hpp"
-#include "core/exchange/CSV.hpp"
-#include "core/exchange/CSVImportOptions.hpp"
-#include "core/exchange/CSVImporter.hpp"
+#include "core/statements/CSV.hpp"
+#include "core/statements/CSVImportOptions.hpp"
+#include "core/statements/CSVImporter.hpp"
 
 #include <benchmark/benchmark.h>
 

@@ -7,6 +7,7 @@
 
 #include "bench/LedgerGenerator.hpp"
 #include "core/ledger/Ledger.hpp"
+#include "core/statements/ImportMerge.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -80,7 +81,7 @@ void BM_ImportMerge(benchmark::State& state) {
     const Ledger& base = generatedLedger(static_cast<std::size_t>(state.range(1)));
     const std::vector<Transaction> rows = statement(base, static_cast<std::size_t>(state.range(0)));
     const std::string card = base.accounts()[1].id;
-    Ledger::ImportResult result;
+    ImportResult result;
     std::optional<Ledger> ledger;
     for (auto _ : state) {
         state.PauseTiming();
@@ -88,7 +89,7 @@ void BM_ImportMerge(benchmark::State& state) {
         std::vector<Transaction> copy = rows;
         state.ResumeTiming();
 
-        result = ledger->importTransactions(std::move(copy), card, true, rome);
+        result = importTransactions(*ledger, std::move(copy), card, true, rome);
         benchmark::DoNotOptimize(result);
 
         state.PauseTiming();

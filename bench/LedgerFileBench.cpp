@@ -4,8 +4,8 @@
 // Goals: load and save under half a second, an edit under 5 ms.
 
 #include "bench/LedgerGenerator.hpp"
+#include "core/files/LedgerStore.hpp"
 #include "core/ledger/Ledger.hpp"
-#include "core/ledger/LedgerStore.hpp"
 
 #include <benchmark/benchmark.h>
 

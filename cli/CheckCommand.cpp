@@ -2,42 +2,17 @@
 
 #include "cli/Arguments.hpp"
 #include "core/base/Json.hpp"
+#include "core/files/LedgerCollections.hpp"
+#include "core/files/LedgerStore.hpp"
 #include "core/ledger/Ledger.hpp"
-#include "core/ledger/LedgerStore.hpp"
+#include "core/ledger/LedgerAccounts.hpp"
 
-#include <array>
-#include <cstddef>
+#include <string>
 #include <utility>
 
 namespace vantello::cli {
 
 namespace {
-
-struct Count {
-    const char* key;    // the collection's key in the ledger file
-    const char* label;  // how the text report calls it
-    std::size_t count;
-};
-
-std::array<Count, 15> countsOf(const LedgerData& data) {
-    return {{
-        {"transactions", "Movimenti", data.transactions.size()},
-        {"customCategories", "Categorie personalizzate", data.customCategories.size()},
-        {"budgets", "Budget", data.budgets.size()},
-        {"accounts", "Conti", data.accounts.size()},
-        {"recurringRules", "Movimenti ricorrenti", data.recurringRules.size()},
-        {"categoryRules", "Regole di categoria", data.categoryRules.size()},
-        {"unemploymentPeriods", "Periodi senza lavoro", data.unemploymentPeriods.size()},
-        {"savedSearches", "Ricerche salvate", data.savedSearches.size()},
-        {"savingsGoals", "Obiettivi di risparmio", data.savingsGoals.size()},
-        {"loans", "Prestiti", data.loans.size()},
-        {"assets", "Beni", data.assets.size()},
-        {"ignoredSubscriptions", "Abbonamenti ignorati", data.ignoredSubscriptions.size()},
-        {"dismissedAlerts", "Avvisi nascosti", data.dismissedAlerts.size()},
-        {"people", "Persone", data.people.size()},
-        {"sharedEntries", "Voci condivise", data.sharedEntries.size()},
-    }};
-}
 
 void printJson(const LedgerStore& store, const std::optional<LedgerStore::FormatVersion>& version,
                const Ledger& ledger, std::ostream& out) {
@@ -45,10 +20,12 @@ void printJson(const LedgerStore& store, const std::optional<LedgerStore::Format
     report["file"] = store.file().string();
     if (version) report["version"] = version->value;
     Json counts = Json::object();
-    for (const Count& count : countsOf(ledger.data())) counts[count.key] = count.count;
+    for (const LedgerCollection& collection : ledgerCollections()) {
+        counts[std::string(collection.key)] = collection.count(ledger.data());
+    }
     report["counts"] = std::move(counts);
 
-    const auto balances = ledger.balances();
+    const auto balances = accountBalances(ledger);
     Json accounts = Json::array();
     for (const Account& account : ledger.accounts()) {
         accounts.push_back({{"id", account.id}, {"name", account.name}, {"balance", balances.at(account.id).toFixed(2)}});
@@ -65,9 +42,11 @@ void printText(const LedgerStore& store, const std::optional<LedgerStore::Format
     } else {
         out << "Formato: nessun file, i dati sono vuoti\n";
     }
-    for (const Count& count : countsOf(ledger.data())) out << count.label << ": " << count.count << '\n';
+    for (const LedgerCollection& collection : ledgerCollections()) {
+        out << collection.label << ": " << collection.count(ledger.data()) << '\n';
+    }
 
-    const auto balances = ledger.balances();
+    const auto balances = accountBalances(ledger);
     out << "Saldi:\n";
     for (const Account& account : ledger.accounts()) {
         out << "  " << account.name << " (" << account.id << "): " << balances.at(account.id).toFixed(2) << '\n';

@@ -1,11 +1,12 @@
 #include "cli/ExportCommand.hpp"
 
 #include "cli/Arguments.hpp"
+#include "core/analysis/MonthTransactions.hpp"
 #include "core/base/AtomicFile.hpp"
 #include "core/base/Calendar.hpp"
-#include "core/exchange/CSVExport.hpp"
+#include "core/files/LedgerStore.hpp"
 #include "core/ledger/Ledger.hpp"
-#include "core/ledger/LedgerStore.hpp"
+#include "core/statements/CSVExport.hpp"
 
 #include <charconv>
 #include <optional>
@@ -65,15 +66,14 @@ int runExport(const std::vector<std::string>& arguments, std::ostream& out, std:
         const Calendar calendar = Calendar::current();
         // Reading needs no lock; only the output file is written.
         const Ledger ledger(LedgerStore(parsed.dataFolder() / LedgerStore::fileName).load());
-        std::optional<DateInterval> interval;
-        if (month) {
-            const auto start = calendar.date(*month, 12);
-            if (!start) throw UserError("Il mese " + *parsed.value("--month") + " non esiste nel calendario.");
-            interval = calendar.monthInterval(*start);
-        }
         std::vector<Transaction> chosen;
-        for (const Transaction& transaction : ledger.transactions()) {
-            if (!interval || interval->contains(transaction.date)) chosen.push_back(transaction);
+        if (month) {
+            const auto dayInMonth = calendar.date(*month, 12);
+            if (!dayInMonth) throw UserError("Il mese " + *parsed.value("--month") + " non esiste nel calendario.");
+            chosen = monthTransactions(ledger, *dayInMonth, calendar);
+        } else {
+            const auto& all = ledger.transactions();
+            chosen.assign(all.begin(), all.end());
         }
         const std::string text = CSVExport::text(chosen, ledger.allCategories(), calendar, localeName);
         if (const auto output = parsed.value("--output")) {

@@ -2,17 +2,16 @@
 
 #include "cli/Arguments.hpp"
 #include "core/base/Calendar.hpp"
+#include "core/base/Iso8601.hpp"
 #include "core/base/Json.hpp"
-#include "core/exchange/CSV.hpp"
-#include "core/exchange/CSVImportOptions.hpp"
-#include "core/exchange/CSVImporter.hpp"
-#include "core/exchange/StatementFile.hpp"
 #include "core/files/DataFolder.hpp"
+#include "core/files/LedgerStore.hpp"
 #include "core/ledger/Ledger.hpp"
-#include "core/ledger/LedgerStore.hpp"
+#include "core/statements/CSVImportOptions.hpp"
+#include "core/statements/ImportMerge.hpp"
+#include "core/statements/StatementImport.hpp"
 
 #include <charconv>
-#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <utility>
@@ -22,20 +21,6 @@ namespace vantello::cli {
 namespace {
 
 namespace fs = std::filesystem;
-
-// The column choices of the command line, checked before any file is read.
-struct ColumnChoices {
-    std::optional<char> separator;
-    std::optional<int> headerRow;
-    bool noHeader = false;
-    std::optional<int> dateColumn;
-    std::optional<CSVImportOptions::DateOrder> dateOrder;
-    std::optional<int> amountColumn;
-    std::optional<int> incomeColumn;
-    std::optional<int> expenseColumn;
-    std::optional<int> descriptionColumn;
-    std::optional<int> categoryColumn;
-};
 
 [[noreturn]] void badValue(std::string_view option, std::string_view value) {
     throw ArgumentError("Valore non valido per " + std::string(option) + ": «" + std::string(value) + "».");
@@ -51,8 +36,9 @@ std::optional<int> columnOption(const Arguments& arguments, std::string_view opt
     return column;
 }
 
-ColumnChoices columnChoices(const Arguments& arguments) {
-    ColumnChoices choices;
+// The column choices of the command line, checked before any file is read.
+CSVImportOverrides columnChoices(const Arguments& arguments) {
+    CSVImportOverrides choices;
     if (const auto separator = arguments.value("--separator")) {
         if (*separator == ";" || *separator == ",") {
             choices.separator = separator->front();
@@ -81,49 +67,7 @@ ColumnChoices columnChoices(const Arguments& arguments) {
     return choices;
 }
 
-void applyChoices(CSVImportOptions& options, const ColumnChoices& choices) {
-    if (choices.noHeader) options.hasHeader = false;
-    if (choices.headerRow) {
-        options.hasHeader = true;
-        options.headerRow = *choices.headerRow;
-    }
-    if (choices.dateColumn) options.dateColumn = choices.dateColumn;
-    if (choices.dateOrder) options.dateOrder = *choices.dateOrder;
-    if (choices.amountColumn) {
-        options.amountMode = CSVImportOptions::AmountMode::signed_;
-        options.amountColumn = choices.amountColumn;
-    }
-    if (choices.incomeColumn || choices.expenseColumn) {
-        options.amountMode = CSVImportOptions::AmountMode::separate;
-        if (choices.incomeColumn) options.incomeColumn = choices.incomeColumn;
-        if (choices.expenseColumn) options.expenseColumn = choices.expenseColumn;
-    }
-    if (choices.descriptionColumn) options.descriptionColumn = choices.descriptionColumn;
-    if (choices.categoryColumn) options.categoryColumn = choices.categoryColumn;
-}
-
 std::string separatorName(char separator) { return separator == '\t' ? "tab" : std::string(1, separator); }
-
-// What the statement's rows became under the options, with the options themselves.
-struct Statement {
-    char separator = ',';
-    CSVImportOptions options;
-    std::vector<CSVImportRow> rows;
-};
-
-// Reading the file needs the ledger's categories, which recognise the category column.
-Statement readStatement(const fs::path& file, const ColumnChoices& choices,
-                        const std::vector<TransactionCategory>& categories, const Calendar& calendar) {
-    const std::string text = readStatementText(file);
-    Statement statement;
-    statement.separator = choices.separator.value_or(CSV::detectSeparator(text));
-    const CSV::Table table = CSV::parse(text, statement.separator);
-    statement.options = CSVImportOptions::guessed(table);
-    applyChoices(statement.options, choices);
-    statement.rows = CSVImporter::rows(table, statement.options, categories, calendar);
-    if (statement.rows.empty()) throw UserError(statementWithoutRowsMessage(file));
-    return statement;
-}
 
 Json columnJson(const std::optional<int>& column) { return column ? Json(*column) : Json(nullptr); }
 
@@ -144,7 +88,7 @@ Json optionsJson(const CSVImportOptions& options) {
     };
 }
 
-void printPreview(const Statement& statement, bool json, const Calendar& calendar, std::ostream& out) {
+void printPreview(const StatementImport& statement, bool json, const Calendar& calendar, std::ostream& out) {
     if (json) {
         Json rows = Json::array();
         for (const CSVImportRow& row : statement.rows) {
@@ -167,15 +111,12 @@ void printPreview(const Statement& statement, bool json, const Calendar& calenda
             continue;
         }
         const Transaction& transaction = *row.transaction;
-        const CivilDate day = calendar.civilDate(transaction.date);
-        char date[16];
-        std::snprintf(date, sizeof date, "%04d-%02d-%02d", day.year, day.month, day.day);
-        out << date << ' ' << fileText(transaction.kind) << ' ' << transaction.amount.toFixed(2) << ' '
-            << transaction.categoryID << " «" << transaction.note << "»\n";
+        out << Iso8601::day(calendar.civilDate(transaction.date)) << ' ' << fileText(transaction.kind) << ' '
+            << transaction.amount.toFixed(2) << ' ' << transaction.categoryID << " «" << transaction.note << "»\n";
     }
 }
 
-void printResult(const Ledger::ImportResult& result, const std::vector<const CSVImportRow*>& problems, bool saved,
+void printResult(const ImportResult& result, const std::vector<const CSVImportRow*>& problems, bool saved,
                  bool json, std::ostream& out) {
     if (json) {
         Json rows = Json::array();
@@ -204,16 +145,17 @@ std::string unknownAccountMessage(const Ledger& ledger, std::string_view account
     return message;
 }
 
-int preview(const Arguments& arguments, const ColumnChoices& choices, const Calendar& calendar, std::ostream& out) {
+int preview(const Arguments& arguments, const CSVImportOverrides& choices, const Calendar& calendar,
+            std::ostream& out) {
     // Reading needs no lock: nothing is written.
     const Ledger ledger(LedgerStore(arguments.dataFolder() / LedgerStore::fileName).load());
-    const Statement statement =
-        readStatement(arguments.positional().front(), choices, ledger.allCategories(), calendar);
+    const StatementImport statement =
+        openStatement(arguments.positional().front(), choices, ledger.allCategories(), calendar);
     printPreview(statement, arguments.has("--json"), calendar, out);
     return 0;
 }
 
-int merge(const Arguments& arguments, const ColumnChoices& choices, const std::string& accountID,
+int merge(const Arguments& arguments, const CSVImportOverrides& choices, const std::string& accountID,
           const Calendar& calendar, std::ostream& out, std::ostream& err) {
     const fs::path folder = arguments.dataFolder();
     const DataFolderLock lock(folder);
@@ -223,25 +165,16 @@ int merge(const Arguments& arguments, const ColumnChoices& choices, const std::s
         err << unknownAccountMessage(ledger, accountID) << '\n';
         return 1;
     }
-    Statement statement = readStatement(arguments.positional().front(), choices, ledger.allCategories(), calendar);
+    StatementImport statement =
+        openStatement(arguments.positional().front(), choices, ledger.allCategories(), calendar);
+    const std::vector<const CSVImportRow*> problems = statement.problems();
+    const std::size_t rowCount = statement.rows.size();
 
-    std::vector<Transaction> transactions;
-    std::vector<const CSVImportRow*> problems;
-    for (CSVImportRow& row : statement.rows) {
-        if (row.transaction) {
-            transactions.push_back(std::move(*row.transaction));
-        } else {
-            problems.push_back(&row);
-        }
-    }
-
-    const Ledger before = ledger;
-    const auto result = ledger.importTransactions(std::move(transactions), accountID,
-                                                  arguments.has("--transfers"), calendar);
-    const bool changed = !(ledger == before);
-    if (changed) store.save(ledger.data());
-    printResult(result, problems, changed, arguments.has("--json"), out);
-    if (problems.size() == statement.rows.size()) {
+    const ImportResult result = importTransactions(ledger, std::move(statement).transactions(), accountID,
+                                                   arguments.has("--transfers"), calendar);
+    if (result.changed()) store.save(ledger.data());
+    printResult(result, problems, result.changed(), arguments.has("--json"), out);
+    if (problems.size() == rowCount) {
         err << "Nessun movimento riconosciuto: controlla le colonne con --preview.\n";
         return 1;
     }
@@ -252,7 +185,7 @@ int merge(const Arguments& arguments, const ColumnChoices& choices, const std::s
 
 int runImport(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
     Arguments parsed;
-    ColumnChoices choices;
+    CSVImportOverrides choices;
     try {
         ArgumentRules rules;
         rules.flags = {"--preview", "--transfers", "--json", "--no-header", "--help"};

@@ -4,12 +4,12 @@
 #include "core/base/Calendar.hpp"
 #include "core/base/CivilDays.hpp"
 #include "core/base/Json.hpp"
-#include "core/exchange/Currencies.hpp"
-#include "core/exchange/ECBParser.hpp"
-#include "core/exchange/ExchangeRates.hpp"
-#include "core/exchange/RateDownload.hpp"
-#include "core/exchange/RateError.hpp"
 #include "core/ledger/AmountParser.hpp"
+#include "core/rates/Currencies.hpp"
+#include "core/rates/ECBParser.hpp"
+#include "core/rates/ExchangeRates.hpp"
+#include "core/rates/RateDownload.hpp"
+#include "core/rates/RateError.hpp"
 
 #include <cctype>
 #include <fstream>

@@ -93,6 +93,12 @@ std::string format(Instant moment) {
     return text;
 }
 
+std::string day(CivilDate date) {
+    char text[48];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.year, date.month, date.day);
+    return text;
+}
+
 std::optional<Instant> parse(std::string_view text) {
     Reader reader(text);
     const auto year = reader.digits(4);

@@ -1,5 +1,6 @@
 #pragma once
-// ISO 8601 date-time text as the data files keep it: "2025-03-01T10:00:00Z".
+// ISO 8601 date-time text as the data files keep it: "2025-03-01T10:00:00Z", and the day
+// alone as the exported files and the rate tables key it: "2025-03-01".
 
 #include "core/base/Instant.hpp"
 
@@ -17,5 +18,8 @@ namespace vantello::Iso8601 {
 // are accepted and dropped. Years 0001...9999. Nothing for anything else (including
 // impossible dates, out-of-range hours and trailing characters).
 [[nodiscard]] std::optional<Instant> parse(std::string_view text);
+
+// A calendar day alone: "2025-03-01". The parts are written as they are, without a check.
+[[nodiscard]] std::string day(CivilDate date);
 
 }  // namespace vantello::Iso8601

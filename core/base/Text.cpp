@@ -8,6 +8,7 @@
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstdint>
@@ -51,6 +52,10 @@ bool isAscii(std::string_view text) {
     }
     return true;
 }
+
+// The characters of ASCII with the White_Space property: tab, line feed, vertical tab, form feed,
+// carriage return and space.
+constexpr bool isAsciiWhitespace(std::uint8_t byte) { return byte == ' ' || (byte >= '\t' && byte <= '\r'); }
 
 constexpr char asciiLower(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
@@ -165,22 +170,42 @@ bool isWhitespace(char32_t codePoint) {
     return u_isUWhiteSpace(static_cast<UChar32>(codePoint)) != 0;
 }
 
-std::string trimmed(std::string_view text) {
+std::string trimmed(std::string_view text) { return std::string(trimmedView(text)); }
+
+std::string_view trimmedView(std::string_view text) {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-    const std::int64_t length = static_cast<std::int64_t>(text.size());
-    std::int64_t start = -1;
-    std::int64_t end = 0;
-    for (std::int64_t index = 0; index < length;) {
-        const std::int64_t characterStart = index;
+    const std::size_t length = text.size();
+    std::size_t start = 0;
+    while (start < length) {
+        if (bytes[start] < 0x80) {
+            if (!isAsciiWhitespace(bytes[start])) break;
+            ++start;
+            continue;
+        }
+        auto next = static_cast<std::int64_t>(start);
         UChar32 codePoint = 0;
-        U8_NEXT_OR_FFFD(bytes, index, length, codePoint);
-        if (isWhitespace(static_cast<char32_t>(codePoint))) continue;
-        if (start < 0) start = characterStart;
-        end = index;
+        U8_NEXT_OR_FFFD(bytes, next, static_cast<std::int64_t>(length), codePoint);
+        if (!isWhitespace(static_cast<char32_t>(codePoint))) break;
+        start = static_cast<std::size_t>(next);
     }
-    if (start < 0) return {};
+    std::size_t end = length;
+    while (end > start) {
+        if (bytes[end - 1] < 0x80) {
+            if (!isAsciiWhitespace(bytes[end - 1])) break;
+            --end;
+            continue;
+        }
+        // A character takes at most four bytes, so reading back needs no more than those
+        // (and keeps ICU's 32-bit offsets small whatever the length of the text).
+        const std::size_t windowStart = std::max(start, end - std::min<std::size_t>(end, U8_MAX_LENGTH));
+        auto previous = static_cast<std::int32_t>(end - windowStart);
+        UChar32 codePoint = 0;
+        U8_PREV_OR_FFFD(bytes + windowStart, 0, previous, codePoint);
+        if (!isWhitespace(static_cast<char32_t>(codePoint))) break;
+        end = windowStart + static_cast<std::size_t>(previous);
+    }
     // Ill-formed bytes inside the kept part stay as they were; only white space is removed.
-    return std::string(text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start)));
+    return text.substr(start, end - start);
 }
 
 std::string folded(std::string_view text) {

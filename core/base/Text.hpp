@@ -13,6 +13,8 @@ namespace vantello::Text {
 
 // Removes leading and trailing white space, line breaks included.
 [[nodiscard]] std::string trimmed(std::string_view text);
+// The same, as a part of `text` itself; ill-formed bytes are never white space.
+[[nodiscard]] std::string_view trimmedView(std::string_view text);
 
 // Case-folded, accents removed: the form every "ignoring case and accents" comparison uses.
 // folded("SVAGÓ") == folded("svago").

@@ -1,6 +1,9 @@
 #include "core/ledger/Account.hpp"
 
+#include "core/base/JsonFields.hpp"
 #include "core/base/Localization.hpp"
+
+#include <tuple>
 
 namespace vantello {
 
@@ -9,23 +12,17 @@ Account Account::main() {
                    std::nullopt};
 }
 
-void to_json(Json& json, const Account& account) {
-    json = Json::object();
-    json["id"] = account.id;
-    json["name"] = account.name;
-    json["symbol"] = account.symbol;
-    json["openingBalance"] = account.openingBalance;
-    JsonCoding::putIfPresent(json, "lowBalanceThreshold", account.lowBalanceThreshold);
-}
-
-void from_json(const Json& json, Account& account) {
-    using namespace JsonCoding;
-    account.id = required<std::string>(json, "id");
-    account.name = required<std::string>(json, "name");
+const auto accountFields = std::tuple{
+    JsonFields::required("id", &Account::id),
+    JsonFields::required("name", &Account::name),
     // A missing icon must not cost the user the whole file; the screens show a neutral one.
-    account.symbol = valueOr<std::string>(json, "symbol", "");
-    account.openingBalance = required<Decimal>(json, "openingBalance");
-    account.lowBalanceThreshold = optional<Decimal>(json, "lowBalanceThreshold");
-}
+    JsonFields::orDefault("symbol", &Account::symbol, std::string()),
+    JsonFields::required("openingBalance", &Account::openingBalance),
+    JsonFields::optional("lowBalanceThreshold", &Account::lowBalanceThreshold),
+};
+
+void to_json(Json& json, const Account& account) { JsonFields::write(json, account, accountFields); }
+
+void from_json(const Json& json, Account& account) { JsonFields::read(json, account, accountFields); }
 
 }  // namespace vantello

@@ -1,22 +1,21 @@
 #include "core/ledger/Attachment.hpp"
 
+#include "core/base/JsonFields.hpp"
+
+#include <tuple>
+
 namespace vantello {
 
-void to_json(Json& json, const Attachment& attachment) {
-    json = Json::object();
-    json["id"] = attachment.id;
-    json["originalName"] = attachment.originalName;
-    json["storedName"] = attachment.storedName;
-    json["byteCount"] = attachment.byteCount;
-    json["addedAt"] = attachment.addedAt;
-}
+const auto attachmentFields = std::tuple{
+    JsonFields::required("id", &Attachment::id),
+    JsonFields::required("originalName", &Attachment::originalName),
+    JsonFields::required("storedName", &Attachment::storedName),
+    JsonFields::required("byteCount", &Attachment::byteCount),
+    JsonFields::required("addedAt", &Attachment::addedAt),
+};
 
-void from_json(const Json& json, Attachment& attachment) {
-    attachment.id = JsonCoding::required<Uuid>(json, "id");
-    attachment.originalName = JsonCoding::required<std::string>(json, "originalName");
-    attachment.storedName = JsonCoding::required<std::string>(json, "storedName");
-    attachment.byteCount = JsonCoding::required<std::int64_t>(json, "byteCount");
-    attachment.addedAt = JsonCoding::required<Instant>(json, "addedAt");
-}
+void to_json(Json& json, const Attachment& attachment) { JsonFields::write(json, attachment, attachmentFields); }
+
+void from_json(const Json& json, Attachment& attachment) { JsonFields::read(json, attachment, attachmentFields); }
 
 }  // namespace vantello

@@ -1,19 +1,19 @@
 #include "core/ledger/CategoryRule.hpp"
 
+#include "core/base/JsonFields.hpp"
+
+#include <tuple>
+
 namespace vantello {
 
-void to_json(Json& json, const CategoryRule& rule) {
-    json = Json::object();
-    json["id"] = rule.id;
-    json["pattern"] = rule.pattern;
-    json["categoryID"] = rule.categoryID;
-}
+const auto categoryRuleFields = std::tuple{
+    JsonFields::required("id", &CategoryRule::id),
+    JsonFields::required("pattern", &CategoryRule::pattern),
+    JsonFields::required("categoryID", &CategoryRule::categoryID),
+};
 
-void from_json(const Json& json, CategoryRule& rule) {
-    using namespace JsonCoding;
-    rule.id = required<Uuid>(json, "id");
-    rule.pattern = required<std::string>(json, "pattern");
-    rule.categoryID = required<std::string>(json, "categoryID");
-}
+void to_json(Json& json, const CategoryRule& rule) { JsonFields::write(json, rule, categoryRuleFields); }
+
+void from_json(const Json& json, CategoryRule& rule) { JsonFields::read(json, rule, categoryRuleFields); }
 
 }  // namespace vantello

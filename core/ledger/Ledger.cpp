@@ -3,6 +3,8 @@
 #include "core/base/Text.hpp"
 #include "core/ledger/AdvancedError.hpp"
 #include "core/ledger/LedgerError.hpp"
+#include "core/ledger/RecordLookup.hpp"
+#include "core/ledger/SharedError.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -50,9 +52,7 @@ std::string checkedCategoryName(const Ledger& ledger, std::string_view name, Tra
 Ledger::Ledger() { data_.accounts.push_back(Account::main()); }
 
 Ledger::Ledger(LedgerData data) : data_(std::move(data)) {
-    const bool hasMain = std::any_of(data_.accounts.begin(), data_.accounts.end(),
-                                     [](const Account& account) { return account.id == mainAccountID; });
-    if (!hasMain) data_.accounts.insert(data_.accounts.begin(), Account::main());
+    keepMainAccount();
     data_.transactions.stableSort([](const Transaction& a, const Transaction& b) { return a.date > b.date; });
 }
 
@@ -84,15 +84,15 @@ std::vector<TransactionCategory> Ledger::allCategories() const {
     return result;
 }
 
-const Account* Ledger::account(std::string_view id) const {
-    const auto found = std::find_if(data_.accounts.begin(), data_.accounts.end(),
-                                    [id](const Account& account) { return account.id == id; });
-    return found == data_.accounts.end() ? nullptr : &*found;
-}
+const Account* Ledger::account(std::string_view id) const { return findByID(data_.accounts, id); }
 
 const Transaction* Ledger::transaction(const Uuid& id) const {
     const auto index = indexOf(data_.transactions, id);
     return index ? &data_.transactions[*index] : nullptr;
+}
+
+void Ledger::keepMainAccount() {
+    if (!findByID(data_.accounts, mainAccountID)) data_.accounts.insert(data_.accounts.begin(), Account::main());
 }
 
 // ---- movements
@@ -120,6 +120,25 @@ void Ledger::validate(const Transaction& transaction) const {
 
     validateShares(transaction);
 }
+
+void Ledger::validateShares(const Transaction& transaction) const {
+    const auto& shares = transaction.shares;
+    if (shares.empty()) return;
+    if (transaction.kind != TransactionKind::expense || transaction.isTransfer() ||
+        transaction.categoryID == transferCategoryID) {
+        throw SharedError(SharedError::Code::sharesOnlyOnExpenses);
+    }
+    for (const PersonShare& share : shares) {
+        if (!findByID(data_.people, share.personID)) throw SharedError(SharedError::Code::unknownPerson);
+    }
+    Decimal sum;
+    for (const PersonShare& share : shares) {
+        if (share.amount.sign() <= 0) throw SharedError(SharedError::Code::amountNotPositive);
+        sum += share.amount;
+    }
+    if (sum > transaction.amount) throw SharedError(SharedError::Code::sharesTooLarge);
+}
+
 
 void Ledger::add(Transaction transaction) {
     validate(transaction);

@@ -1,8 +1,8 @@
-// Accounts of the ledger: adding, editing and deleting them, and their balances.
+#include "core/ledger/LedgerAccounts.hpp"
 
 #include "core/base/Text.hpp"
 #include "core/ledger/AdvancedError.hpp"
-#include "core/ledger/Ledger.hpp"
+#include "core/ledger/RecordLookup.hpp"
 
 #include <algorithm>
 
@@ -69,50 +69,51 @@ void forEachEffect(const Transaction& transaction, Apply&& apply) {
 
 }  // namespace
 
-Account Ledger::addAccount(std::string_view name, std::string symbol, Decimal openingBalance,
-                           std::optional<Decimal> lowBalanceThreshold) {
+Account addAccount(Ledger& ledger, std::string_view name, std::string symbol, Decimal openingBalance,
+                   std::optional<Decimal> lowBalanceThreshold) {
     Account account;
-    account.name = checkedAccountName(data_.accounts, name, {});
+    account.name = checkedAccountName(ledger.accounts(), name, {});
     account.id = "conto-" + Uuid::random().text();
     account.symbol = std::move(symbol);
     account.openingBalance = std::move(openingBalance);
     account.lowBalanceThreshold = std::move(lowBalanceThreshold);
-    data_.accounts.push_back(account);
+    ledger.change([&](LedgerData& data) { data.accounts.push_back(account); });
     return account;
 }
 
-void Ledger::updateAccount(Account account) {
-    const auto position = std::find_if(data_.accounts.begin(), data_.accounts.end(),
-                                       [&](const Account& existing) { return existing.id == account.id; });
-    if (position == data_.accounts.end()) throw AdvancedError(AdvancedError::Code::unknownAccount);
-    account.name = checkedAccountName(data_.accounts, account.name, account.id);
-    *position = std::move(account);
+void updateAccount(Ledger& ledger, Account account) {
+    ledger.change([&](LedgerData& data) {
+        Account& existing =
+            existingRecord(data.accounts, account.id, AdvancedError(AdvancedError::Code::unknownAccount));
+        account.name = checkedAccountName(data.accounts, account.name, account.id);
+        existing = std::move(account);
+    });
 }
 
-int Ledger::deleteAccount(std::string_view id) {
+int deleteAccount(Ledger& ledger, std::string_view id) {
     if (id == mainAccountID) throw AdvancedError(AdvancedError::Code::mainAccount);
-    const auto position = std::find_if(data_.accounts.begin(), data_.accounts.end(),
-                                       [&](const Account& account) { return account.id == id; });
-    if (position == data_.accounts.end()) throw AdvancedError(AdvancedError::Code::unknownAccount);
+    if (!ledger.account(id)) throw AdvancedError(AdvancedError::Code::unknownAccount);
     // `id` may point into the account about to be erased.
     const std::string removedID(id);
 
-    int touched = 0;
-    SharedList<Transaction>& transactions = data_.transactions;
-    for (std::size_t index = 0; index < transactions.size(); ++index) {
-        if (!refersTo(transactions[index], removedID)) continue;
-        transactions.update(index, [&](Transaction& transaction) { moveToMainAccount(transaction, removedID); });
-        ++touched;
-    }
-    for (RecurringRule& rule : data_.recurringRules) moveToMainAccount(rule, removedID);
-    data_.accounts.erase(position);
-    return touched;
+    return ledger.change([&](LedgerData& data) {
+        int touched = 0;
+        SharedList<Transaction>& transactions = data.transactions;
+        for (std::size_t index = 0; index < transactions.size(); ++index) {
+            if (!refersTo(transactions[index], removedID)) continue;
+            transactions.update(index, [&](Transaction& transaction) { moveToMainAccount(transaction, removedID); });
+            ++touched;
+        }
+        for (RecurringRule& rule : data.recurringRules) moveToMainAccount(rule, removedID);
+        std::erase_if(data.accounts, [&](const Account& account) { return account.id == removedID; });
+        return touched;
+    });
 }
 
-Decimal Ledger::balance(std::string_view accountID) const {
-    const Account* found = account(accountID);
+Decimal accountBalance(const Ledger& ledger, std::string_view accountID) {
+    const Account* found = ledger.account(accountID);
     Decimal total = found ? found->openingBalance : Decimal();
-    for (const Transaction& transaction : data_.transactions) {
+    for (const Transaction& transaction : ledger.transactions()) {
         forEachEffect(transaction, [&](const std::string& affected, const Decimal& effect) {
             if (affected == accountID) total += effect;
         });
@@ -120,10 +121,10 @@ Decimal Ledger::balance(std::string_view accountID) const {
     return total;
 }
 
-std::map<std::string, Decimal> Ledger::balances() const {
+std::map<std::string, Decimal> accountBalances(const Ledger& ledger) {
     std::map<std::string, Decimal> totals;
-    for (const Account& account : data_.accounts) totals.emplace(account.id, account.openingBalance);
-    for (const Transaction& transaction : data_.transactions) {
+    for (const Account& account : ledger.accounts()) totals.emplace(account.id, account.openingBalance);
+    for (const Transaction& transaction : ledger.transactions()) {
         forEachEffect(transaction, [&](const std::string& affected, const Decimal& effect) {
             // Movements on an account that no longer exists have no balance to go to.
             if (auto entry = totals.find(affected); entry != totals.end()) entry->second += effect;

@@ -1,10 +1,10 @@
-// Category rules of the ledger: filing movements by the text of their description.
+#include "core/ledger/LedgerCategoryRules.hpp"
 
 #include "core/base/Text.hpp"
 #include "core/ledger/AdvancedError.hpp"
 #include "core/ledger/CategoryRuleMatcher.hpp"
-#include "core/ledger/Ledger.hpp"
 #include "core/ledger/LedgerError.hpp"
+#include "core/ledger/RecordLookup.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -26,60 +26,68 @@ std::string checkedRule(const Ledger& ledger, std::string_view pattern, const st
 
 }  // namespace
 
-CategoryRule Ledger::addCategoryRule(std::string_view pattern, std::string categoryID) {
+CategoryRule addCategoryRule(Ledger& ledger, std::string_view pattern, std::string categoryID) {
     CategoryRule rule;
-    rule.pattern = checkedRule(*this, pattern, categoryID);
+    rule.pattern = checkedRule(ledger, pattern, categoryID);
     rule.id = Uuid::random();
     rule.categoryID = std::move(categoryID);
-    data_.categoryRules.push_back(rule);
+    ledger.change([&](LedgerData& data) { data.categoryRules.push_back(rule); });
     return rule;
 }
 
-void Ledger::updateCategoryRule(CategoryRule rule) {
-    const auto position = std::find_if(data_.categoryRules.begin(), data_.categoryRules.end(),
-                                       [&](const CategoryRule& existing) { return existing.id == rule.id; });
-    if (position == data_.categoryRules.end()) throw LedgerError(LedgerError::Code::notFound);
-    rule.pattern = checkedRule(*this, rule.pattern, rule.categoryID);
-    *position = std::move(rule);
+void updateCategoryRule(Ledger& ledger, CategoryRule rule) {
+    ledger.change([&](LedgerData& data) {
+        CategoryRule& existing = existingRecord(data.categoryRules, rule.id, LedgerError(LedgerError::Code::notFound));
+        rule.pattern = checkedRule(ledger, rule.pattern, rule.categoryID);
+        existing = std::move(rule);
+    });
 }
 
-void Ledger::deleteCategoryRule(const Uuid& id) {
-    std::erase_if(data_.categoryRules, [&](const CategoryRule& rule) { return rule.id == id; });
+void deleteCategoryRule(Ledger& ledger, const Uuid& id) {
+    ledger.change([&](LedgerData& data) {
+        std::erase_if(data.categoryRules, [&](const CategoryRule& rule) { return rule.id == id; });
+    });
 }
 
-void Ledger::moveCategoryRule(const Uuid& id, Direction direction) {
-    auto& rules = data_.categoryRules;
-    const auto position =
-        std::find_if(rules.begin(), rules.end(), [&](const CategoryRule& rule) { return rule.id == id; });
-    if (position == rules.end()) return;
-    if (direction == Direction::up && position != rules.begin()) {
-        std::iter_swap(position, position - 1);
-    } else if (direction == Direction::down && position + 1 != rules.end()) {
-        std::iter_swap(position, position + 1);
-    }
+void moveCategoryRule(Ledger& ledger, const Uuid& id, MoveDirection direction) {
+    ledger.change([&](LedgerData& data) {
+        auto& rules = data.categoryRules;
+        const auto position =
+            std::find_if(rules.begin(), rules.end(), [&](const CategoryRule& rule) { return rule.id == id; });
+        if (position == rules.end()) return;
+        if (direction == MoveDirection::up && position != rules.begin()) {
+            std::iter_swap(position, position - 1);
+        } else if (direction == MoveDirection::down && position + 1 != rules.end()) {
+            std::iter_swap(position, position + 1);
+        }
+    });
 }
 
-std::optional<std::string> Ledger::categoryByRules(std::string_view note, TransactionKind kind) const {
-    return CategoryRuleMatcher(*this).categoryFor(note, kind);
+std::optional<std::string> categoryByRules(const Ledger& ledger, std::string_view note, TransactionKind kind) {
+    return CategoryRuleMatcher(ledger).categoryFor(note, kind);
 }
 
-int Ledger::applyCategoryRules() {
-    const CategoryRuleMatcher rules(*this);
+int applyCategoryRules(Ledger& ledger) {
+    const CategoryRuleMatcher rules(ledger);
     if (rules.empty()) return 0;
 
-    int moved = 0;
-    SharedList<Transaction>& transactions = data_.transactions;
-    for (std::size_t index = 0; index < transactions.size(); ++index) {
-        const Transaction& transaction = transactions[index];
-        const std::string_view fallback = fallbackCategoryID(transaction.kind);
-        if (transaction.categoryID != fallback || transaction.transferToAccountID) continue;
-        std::optional<std::string> match = rules.categoryFor(transaction.note, transaction.kind);
-        // A rule pointing at the fallback itself wins but leaves the movement where it is.
-        if (!match || *match == fallback) continue;
-        transactions.update(index, [&](Transaction& changed) { changed.categoryID = std::move(*match); });
-        ++moved;
-    }
-    return moved;
+    return ledger.change([&](LedgerData& data) {
+        int won = 0;
+        SharedList<Transaction>& transactions = data.transactions;
+        for (std::size_t index = 0; index < transactions.size(); ++index) {
+            const Transaction& transaction = transactions[index];
+            if (transaction.categoryID != fallbackCategoryID(transaction.kind) || transaction.transferToAccountID) {
+                continue;
+            }
+            std::optional<std::string> match = rules.categoryFor(transaction.note, transaction.kind);
+            if (!match) continue;
+            ++won;
+            // A rule naming the fallback itself wins, and the movement stays where it is.
+            if (*match == transaction.categoryID) continue;
+            transactions.update(index, [&](Transaction& changed) { changed.categoryID = std::move(*match); });
+        }
+        return won;
+    });
 }
 
 }  // namespace vantello

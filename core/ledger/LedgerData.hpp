@@ -3,20 +3,20 @@
 // file stores. Handed between the ledger and the store; copying it is cheap because the
 // movements are shared between copies until one changes.
 
-#include "core/analysis/SavedSearch.hpp"
 #include "core/base/Decimal.hpp"
 #include "core/base/SharedList.hpp"
 #include "core/ledger/Account.hpp"
+#include "core/ledger/Asset.hpp"
 #include "core/ledger/CategoryRule.hpp"
+#include "core/ledger/Loan.hpp"
 #include "core/ledger/Person.hpp"
 #include "core/ledger/RecurringRule.hpp"
+#include "core/ledger/SavedSearch.hpp"
+#include "core/ledger/SavingsGoal.hpp"
 #include "core/ledger/SharedEntry.hpp"
 #include "core/ledger/Transaction.hpp"
 #include "core/ledger/TransactionCategory.hpp"
-#include "core/planning/Asset.hpp"
-#include "core/planning/Loan.hpp"
-#include "core/planning/SavingsGoal.hpp"
-#include "core/planning/UnemploymentPeriod.hpp"
+#include "core/ledger/UnemploymentPeriod.hpp"
 
 #include <map>
 #include <set>

@@ -1,8 +1,8 @@
-// Recurring rules of the ledger: keeping them valid and creating the movements that fall due.
+#include "core/ledger/LedgerRecurring.hpp"
 
 #include "core/ledger/AdvancedError.hpp"
-#include "core/ledger/Ledger.hpp"
 #include "core/ledger/LedgerError.hpp"
+#include "core/ledger/RecordLookup.hpp"
 
 #include <algorithm>
 
@@ -40,73 +40,77 @@ Transaction movementFor(const RecurringRule& rule, Instant dueDate) {
 
 }  // namespace
 
-void Ledger::validateRecurringRule(const RecurringRule& rule) const {
+void validateRecurringRule(const Ledger& ledger, const RecurringRule& rule) {
     if (rule.amount.sign() <= 0) throw LedgerError(LedgerError::Code::amountNotPositive);
-    if (isTransferRule(rule)) {
-        if (!rule.transferToAccountID) {
-            throw AdvancedError(AdvancedError::Code::transferWithoutDestination);
-        }
-        if (!account(*rule.transferToAccountID)) throw AdvancedError(AdvancedError::Code::unknownAccount);
-        if (*rule.transferToAccountID == rule.accountID) {
-            throw AdvancedError(AdvancedError::Code::transferToSameAccount);
-        }
-    } else {
-        const std::optional<TransactionCategory> category = this->category(rule.categoryID);
+    const bool transfer = isTransferRule(rule);
+    if (!transfer) {
+        const std::optional<TransactionCategory> category = ledger.category(rule.categoryID);
         if (!category) throw LedgerError(LedgerError::Code::unknownCategory, rule.categoryID);
         if (category->kind != rule.kind) throw LedgerError(LedgerError::Code::categoryKindMismatch);
     }
-    if (!account(rule.accountID)) throw AdvancedError(AdvancedError::Code::unknownAccount);
+    if (!ledger.account(rule.accountID)) throw AdvancedError(AdvancedError::Code::unknownAccount);
     if (rule.endDate && *rule.endDate < rule.startDate) {
         throw AdvancedError(AdvancedError::Code::invalidRecurrence);
     }
-}
-
-void Ledger::addRecurringRule(RecurringRule rule) {
-    validateRecurringRule(rule);
-    const bool taken = std::any_of(data_.recurringRules.begin(), data_.recurringRules.end(),
-                                   [&](const RecurringRule& existing) { return existing.id == rule.id; });
-    if (taken) throw LedgerError(LedgerError::Code::duplicateID);
-    data_.recurringRules.push_back(std::move(rule));
-}
-
-void Ledger::updateRecurringRule(RecurringRule rule) {
-    validateRecurringRule(rule);
-    const auto position =
-        std::find_if(data_.recurringRules.begin(), data_.recurringRules.end(),
-                     [&](const RecurringRule& existing) { return existing.id == rule.id; });
-    if (position == data_.recurringRules.end()) throw LedgerError(LedgerError::Code::notFound);
-    // Editing changes only the future: occurrences already dealt with are not created again,
-    // even when the edited copy comes without them.
-    if (position->lastGenerated && (!rule.lastGenerated || *rule.lastGenerated < *position->lastGenerated)) {
-        rule.lastGenerated = position->lastGenerated;
+    if (transfer) {
+        if (!rule.transferToAccountID) throw AdvancedError(AdvancedError::Code::transferWithoutDestination);
+        if (!ledger.account(*rule.transferToAccountID)) throw AdvancedError(AdvancedError::Code::unknownAccount);
+        if (*rule.transferToAccountID == rule.accountID) {
+            throw AdvancedError(AdvancedError::Code::transferToSameAccount);
+        }
     }
-    *position = std::move(rule);
 }
 
-void Ledger::deleteRecurringRule(const Uuid& id) {
-    std::erase_if(data_.recurringRules, [&](const RecurringRule& rule) { return rule.id == id; });
+void addRecurringRule(Ledger& ledger, RecurringRule rule) {
+    validateRecurringRule(ledger, rule);
+    if (findByID(ledger.recurringRules(), rule.id)) throw LedgerError(LedgerError::Code::duplicateID);
+    ledger.change([&](LedgerData& data) { data.recurringRules.push_back(std::move(rule)); });
 }
 
-int Ledger::generateDueTransactions(Instant now, const Calendar& calendar) {
+void updateRecurringRule(Ledger& ledger, RecurringRule rule) {
+    validateRecurringRule(ledger, rule);
+    ledger.change([&](LedgerData& data) {
+        RecurringRule& existing =
+            existingRecord(data.recurringRules, rule.id, LedgerError(LedgerError::Code::notFound));
+        // Occurrences already dealt with are not created again, even when the edited copy comes
+        // without them.
+        if (existing.lastGenerated && (!rule.lastGenerated || *rule.lastGenerated < *existing.lastGenerated)) {
+            rule.lastGenerated = existing.lastGenerated;
+        }
+        existing = std::move(rule);
+    });
+}
+
+void deleteRecurringRule(Ledger& ledger, const Uuid& id) {
+    ledger.change([&](LedgerData& data) {
+        std::erase_if(data.recurringRules, [&](const RecurringRule& rule) { return rule.id == id; });
+    });
+}
+
+int generateDueTransactions(Ledger& ledger, Instant now, const Calendar& calendar) {
     // Everything is computed before the ledger changes, so a failure leaves it as it was.
+    const std::vector<RecurringRule>& rules = ledger.recurringRules();
     std::vector<Transaction> created;
     std::vector<std::pair<std::size_t, Instant>> dealtWith;
-    for (std::size_t index = 0; index < data_.recurringRules.size(); ++index) {
-        const RecurringRule& rule = data_.recurringRules[index];
+    for (std::size_t index = 0; index < rules.size(); ++index) {
+        const RecurringRule& rule = rules[index];
         const std::vector<Instant> dueDates = rule.occurrences(rule.lastGenerated, now, calendar);
         if (dueDates.empty()) continue;
         const bool salary = isSalaryRule(rule);
         for (const Instant dueDate : dueDates) {
             // A skipped salary is still dealt with: it is never created later.
-            if (salary && isUnemployed(data_.unemploymentPeriods, dueDate, calendar)) continue;
+            if (salary && isUnemployed(ledger.unemploymentPeriods(), dueDate, calendar)) continue;
             created.push_back(movementFor(rule, dueDate));
         }
         dealtWith.emplace_back(index, dueDates.back());
     }
+    if (dealtWith.empty()) return 0;
 
-    if (!created.empty()) data_.transactions.reserve(data_.transactions.size() + created.size());
-    for (Transaction& transaction : created) data_.transactions.push_back(std::move(transaction));
-    for (const auto& [index, last] : dealtWith) data_.recurringRules[index].lastGenerated = last;
+    ledger.change([&](LedgerData& data) {
+        data.transactions.reserve(data.transactions.size() + created.size());
+        for (Transaction& transaction : created) data.transactions.push_back(std::move(transaction));
+        for (const auto& [index, last] : dealtWith) data.recurringRules[index].lastGenerated = last;
+    });
     return static_cast<int>(created.size());
 }
 

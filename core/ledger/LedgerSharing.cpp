@@ -1,8 +1,7 @@
-// People, the shares of expenses they owe, and the entries that settle them.
-
-#include "core/ledger/Ledger.hpp"
+#include "core/ledger/LedgerSharing.hpp"
 
 #include "core/base/Text.hpp"
+#include "core/ledger/RecordLookup.hpp"
 #include "core/ledger/SharedError.hpp"
 
 #include <algorithm>
@@ -11,14 +10,6 @@
 namespace vantello {
 
 namespace {
-
-std::vector<Person>::const_iterator findPerson(const std::vector<Person>& people, const Uuid& id) {
-    return std::find_if(people.begin(), people.end(), [&id](const Person& person) { return person.id == id; });
-}
-
-bool hasPerson(const std::vector<Person>& people, const Uuid& id) {
-    return findPerson(people, id) != people.end();
-}
 
 // The trimmed name, once it is known not to be empty or another person's name.
 std::string checkedPersonName(const std::vector<Person>& people, std::string_view name,
@@ -35,111 +26,94 @@ std::string checkedPersonName(const std::vector<Person>& people, std::string_vie
 
 void checkEntry(const std::vector<Person>& people, const SharedEntry& entry) {
     if (entry.amount.sign() <= 0) throw SharedError(SharedError::Code::amountNotPositive);
-    if (!hasPerson(people, entry.personID)) throw SharedError(SharedError::Code::unknownPerson);
+    if (!findByID(people, entry.personID)) throw SharedError(SharedError::Code::unknownPerson);
 }
 
 }  // namespace
 
-void Ledger::validateShares(const Transaction& transaction) const {
-    const auto& shares = transaction.shares;
-    if (shares.empty()) return;
-    if (transaction.kind != TransactionKind::expense || transaction.isTransfer() ||
-        transaction.categoryID == transferCategoryID) {
-        throw SharedError(SharedError::Code::sharesOnlyOnExpenses);
-    }
-    for (const PersonShare& share : shares) {
-        if (!hasPerson(data_.people, share.personID)) throw SharedError(SharedError::Code::unknownPerson);
-    }
-    Decimal sum;
-    for (const PersonShare& share : shares) {
-        if (share.amount.sign() <= 0) throw SharedError(SharedError::Code::amountNotPositive);
-        sum += share.amount;
-    }
-    if (sum > transaction.amount) throw SharedError(SharedError::Code::sharesTooLarge);
-}
-
 // ---- people
 
-Person Ledger::addPerson(std::string_view name) {
-    Person person{Uuid::random(), checkedPersonName(data_.people, name, std::nullopt)};
-    data_.people.push_back(person);
+Person addPerson(Ledger& ledger, std::string_view name) {
+    Person person{Uuid::random(), checkedPersonName(ledger.people(), name, std::nullopt)};
+    ledger.change([&](LedgerData& data) { data.people.push_back(person); });
     return person;
 }
 
-void Ledger::renamePerson(const Uuid& id, std::string_view name) {
-    const auto found = findPerson(data_.people, id);
-    if (found == data_.people.end()) throw SharedError(SharedError::Code::unknownPerson);
-    std::string checked = checkedPersonName(data_.people, name, id);
-    data_.people[static_cast<std::size_t>(found - data_.people.begin())].name = std::move(checked);
+void renamePerson(Ledger& ledger, const Uuid& id, std::string_view name) {
+    ledger.change([&](LedgerData& data) {
+        Person& person = existingRecord(data.people, id, SharedError(SharedError::Code::unknownPerson));
+        person.name = checkedPersonName(data.people, name, id);
+    });
 }
 
-void Ledger::deletePerson(const Uuid& id) {
-    const auto found = findPerson(data_.people, id);
-    if (found == data_.people.end()) return;
+void deletePerson(Ledger& ledger, const Uuid& id) {
+    if (!findByID(ledger.people(), id)) return;
 
     const auto isTheirs = [&id](const PersonShare& share) { return share.personID == id; };
-    auto& transactions = data_.transactions;
-    for (std::size_t i = 0; i < transactions.size(); ++i) {
-        const auto& shares = transactions[i].shares;
-        if (std::any_of(shares.begin(), shares.end(), isTheirs)) {
-            transactions.update(i, [&](Transaction& transaction) { std::erase_if(transaction.shares, isTheirs); });
+    ledger.change([&](LedgerData& data) {
+        auto& transactions = data.transactions;
+        for (std::size_t i = 0; i < transactions.size(); ++i) {
+            const auto& shares = transactions[i].shares;
+            if (std::any_of(shares.begin(), shares.end(), isTheirs)) {
+                transactions.update(i, [&](Transaction& transaction) { std::erase_if(transaction.shares, isTheirs); });
+            }
         }
-    }
-    std::erase_if(data_.sharedEntries, [&id](const SharedEntry& entry) { return entry.personID == id; });
-    data_.people.erase(found);
+        std::erase_if(data.sharedEntries, [&id](const SharedEntry& entry) { return entry.personID == id; });
+        std::erase_if(data.people, [&id](const Person& person) { return person.id == id; });
+    });
 }
 
 // ---- settlement entries
 
-void Ledger::addSharedEntry(SharedEntry entry) {
-    checkEntry(data_.people, entry);
-    data_.sharedEntries.push_back(std::move(entry));
+void addSharedEntry(Ledger& ledger, SharedEntry entry) {
+    checkEntry(ledger.people(), entry);
+    ledger.change([&](LedgerData& data) { data.sharedEntries.push_back(std::move(entry)); });
 }
 
-void Ledger::updateSharedEntry(SharedEntry entry) {
-    checkEntry(data_.people, entry);
-    auto& entries = data_.sharedEntries;
-    const auto found = std::find_if(entries.begin(), entries.end(),
-                                    [&entry](const SharedEntry& existing) { return existing.id == entry.id; });
+void updateSharedEntry(Ledger& ledger, SharedEntry entry) {
+    checkEntry(ledger.people(), entry);
     // Entries vanish with their person, so an entry no longer there is reported the same way
     // rather than dropping the user's edit silently.
-    if (found == entries.end()) throw SharedError(SharedError::Code::unknownPerson);
-    *found = std::move(entry);
+    ledger.change([&](LedgerData& data) {
+        existingRecord(data.sharedEntries, entry.id, SharedError(SharedError::Code::unknownPerson)) = std::move(entry);
+    });
 }
 
-void Ledger::deleteSharedEntry(const Uuid& id) {
-    std::erase_if(data_.sharedEntries, [&id](const SharedEntry& entry) { return entry.id == id; });
+void deleteSharedEntry(Ledger& ledger, const Uuid& id) {
+    ledger.change([&](LedgerData& data) {
+        std::erase_if(data.sharedEntries, [&id](const SharedEntry& entry) { return entry.id == id; });
+    });
 }
 
 // ---- balances and history
 
-Decimal Ledger::personBalance(const Uuid& personID) const {
+Decimal personBalance(const Ledger& ledger, const Uuid& personID) {
     Decimal balance;
-    for (const Transaction& transaction : data_.transactions) {
+    for (const Transaction& transaction : ledger.transactions()) {
         for (const PersonShare& share : transaction.shares) {
             if (share.personID == personID) balance += share.amount;
         }
     }
-    for (const SharedEntry& entry : data_.sharedEntries) {
+    for (const SharedEntry& entry : ledger.sharedEntries()) {
         if (entry.personID == personID) balance += entry.effect();
     }
     return balance;
 }
 
-std::vector<SharedHistoryItem> Ledger::personHistory(const Uuid& personID) const {
+std::vector<SharedHistoryItem> personHistory(const Ledger& ledger, const Uuid& personID) {
     std::vector<SharedHistoryItem> items;
-    for (const Transaction& transaction : data_.transactions) {
+    for (const Transaction& transaction : ledger.transactions()) {
         for (const PersonShare& share : transaction.shares) {
             if (share.personID != personID) continue;
             std::string description = transaction.note;
             if (description.empty()) {
-                const auto found = category(transaction.categoryID);
+                const auto found = ledger.category(transaction.categoryID);
                 description = found ? found->name : transaction.categoryID;
             }
             items.push_back({transaction.id, transaction.date, std::move(description), share.amount});
         }
     }
-    for (const SharedEntry& entry : data_.sharedEntries) {
+    for (const SharedEntry& entry : ledger.sharedEntries()) {
         if (entry.personID != personID) continue;
         std::string description = SharedEntry::historyLabel(entry.kind);
         if (!entry.note.empty()) description += " · " + entry.note;
@@ -150,7 +124,7 @@ std::vector<SharedHistoryItem> Ledger::personHistory(const Uuid& personID) const
     return items;
 }
 
-std::vector<PersonShare> Ledger::equalSplit(const Decimal& amount, const std::vector<Uuid>& people) {
+std::vector<PersonShare> equalSplit(const Decimal& amount, const std::vector<Uuid>& people) {
     if (people.empty()) return {};
     const Decimal parts(static_cast<std::int64_t>(people.size()) + 1);
     // Rounded toward zero: a cent left over stays with the user, never the other way round.

@@ -1,17 +1,18 @@
 #include "core/ledger/Person.hpp"
 
+#include "core/base/JsonFields.hpp"
+
+#include <tuple>
+
 namespace vantello {
 
-void to_json(Json& json, const Person& person) {
-    json = Json::object();
-    json["id"] = person.id;
-    json["name"] = person.name;
-}
+const auto personFields = std::tuple{
+    JsonFields::required("id", &Person::id),
+    JsonFields::required("name", &Person::name),
+};
 
-void from_json(const Json& json, Person& person) {
-    using namespace JsonCoding;
-    person.id = required<Uuid>(json, "id");
-    person.name = required<std::string>(json, "name");
-}
+void to_json(Json& json, const Person& person) { JsonFields::write(json, person, personFields); }
+
+void from_json(const Json& json, Person& person) { JsonFields::read(json, person, personFields); }
 
 }  // namespace vantello

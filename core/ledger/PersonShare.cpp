@@ -1,16 +1,18 @@
 #include "core/ledger/PersonShare.hpp"
 
+#include "core/base/JsonFields.hpp"
+
+#include <tuple>
+
 namespace vantello {
 
-void to_json(Json& json, const PersonShare& share) {
-    json = Json::object();
-    json["personID"] = share.personID;
-    json["amount"] = DecimalText{share.amount};
-}
+const auto personShareFields = std::tuple{
+    JsonFields::required("personID", &PersonShare::personID),
+    JsonFields::required("amount", &PersonShare::amount),
+};
 
-void from_json(const Json& json, PersonShare& share) {
-    share.personID = JsonCoding::required<Uuid>(json, "personID");
-    share.amount = JsonCoding::required<DecimalText>(json, "amount").wrappedValue;
-}
+void to_json(Json& json, const PersonShare& share) { JsonFields::write(json, share, personShareFields); }
+
+void from_json(const Json& json, PersonShare& share) { JsonFields::read(json, share, personShareFields); }
 
 }  // namespace vantello

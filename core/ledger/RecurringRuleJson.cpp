@@ -1,10 +1,12 @@
 // The file form of a recurring rule; its occurrences are computed in RecurringRule.cpp.
 #include "core/ledger/RecurringRule.hpp"
 
+#include "core/base/JsonFields.hpp"
 #include "core/base/Localization.hpp"
 
 #include <array>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace vantello {
@@ -43,34 +45,22 @@ void from_json(const Json& json, RecurringRule::Frequency& frequency) {
     throw DecodingError(L10n::tr("Frequenza sconosciuta: {text}", {{"text", json.dump()}}));
 }
 
-void to_json(Json& json, const RecurringRule& rule) {
-    json = Json::object();
-    json["id"] = rule.id;
-    json["kind"] = rule.kind;
-    json["amount"] = rule.amount;
-    json["categoryID"] = rule.categoryID;
-    json["accountID"] = rule.accountID;
-    json["note"] = rule.note;
-    json["frequency"] = rule.frequency;
-    json["startDate"] = rule.startDate;
-    JsonCoding::putIfPresent(json, "endDate", rule.endDate);
-    JsonCoding::putIfPresent(json, "lastGenerated", rule.lastGenerated);
-    JsonCoding::putIfPresent(json, "transferToAccountID", rule.transferToAccountID);
-}
+const auto recurringRuleFields = std::tuple{
+    JsonFields::required("id", &RecurringRule::id),
+    JsonFields::required("kind", &RecurringRule::kind),
+    JsonFields::required("amount", &RecurringRule::amount),
+    JsonFields::required("categoryID", &RecurringRule::categoryID),
+    JsonFields::required("accountID", &RecurringRule::accountID),
+    JsonFields::orDefault("note", &RecurringRule::note, std::string()),
+    JsonFields::required("frequency", &RecurringRule::frequency),
+    JsonFields::required("startDate", &RecurringRule::startDate),
+    JsonFields::optional("endDate", &RecurringRule::endDate),
+    JsonFields::optional("lastGenerated", &RecurringRule::lastGenerated),
+    JsonFields::optional("transferToAccountID", &RecurringRule::transferToAccountID),
+};
 
-void from_json(const Json& json, RecurringRule& rule) {
-    using namespace JsonCoding;
-    rule.id = required<Uuid>(json, "id");
-    rule.kind = required<TransactionKind>(json, "kind");
-    rule.amount = required<Decimal>(json, "amount");
-    rule.categoryID = required<std::string>(json, "categoryID");
-    rule.accountID = required<std::string>(json, "accountID");
-    rule.note = valueOr<std::string>(json, "note", "");
-    rule.frequency = required<RecurringRule::Frequency>(json, "frequency");
-    rule.startDate = required<Instant>(json, "startDate");
-    rule.endDate = optional<Instant>(json, "endDate");
-    rule.lastGenerated = optional<Instant>(json, "lastGenerated");
-    rule.transferToAccountID = optional<std::string>(json, "transferToAccountID");
-}
+void to_json(Json& json, const RecurringRule& rule) { JsonFields::write(json, rule, recurringRuleFields); }
+
+void from_json(const Json& json, RecurringRule& rule) { JsonFields::read(json, rule, recurringRuleFields); }
 
 }  // namespace vantello

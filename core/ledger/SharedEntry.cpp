@@ -1,9 +1,11 @@
 #include "core/ledger/SharedEntry.hpp"
 
+#include "core/base/JsonFields.hpp"
 #include "core/base/Localization.hpp"
 
 #include <array>
 #include <string_view>
+#include <tuple>
 
 namespace vantello {
 
@@ -62,24 +64,17 @@ void from_json(const Json& json, SharedEntry::Kind& kind) {
     throw DecodingError(L10n::tr("Tipo di voce condivisa sconosciuto: {text}", {{"text", json.dump()}}));
 }
 
-void to_json(Json& json, const SharedEntry& entry) {
-    json = Json::object();
-    json["id"] = entry.id;
-    json["personID"] = entry.personID;
-    json["kind"] = entry.kind;
-    json["amount"] = DecimalText{entry.amount};
-    json["date"] = entry.date;
-    json["note"] = entry.note;
-}
+const auto sharedEntryFields = std::tuple{
+    JsonFields::required("id", &SharedEntry::id),
+    JsonFields::required("personID", &SharedEntry::personID),
+    JsonFields::required("kind", &SharedEntry::kind),
+    JsonFields::required("amount", &SharedEntry::amount),
+    JsonFields::required("date", &SharedEntry::date),
+    JsonFields::orDefault("note", &SharedEntry::note, std::string()),
+};
 
-void from_json(const Json& json, SharedEntry& entry) {
-    using namespace JsonCoding;
-    entry.id = required<Uuid>(json, "id");
-    entry.personID = required<Uuid>(json, "personID");
-    entry.kind = required<SharedEntry::Kind>(json, "kind");
-    entry.amount = required<DecimalText>(json, "amount").wrappedValue;
-    entry.date = required<Instant>(json, "date");
-    entry.note = valueOr<std::string>(json, "note", "");
-}
+void to_json(Json& json, const SharedEntry& entry) { JsonFields::write(json, entry, sharedEntryFields); }
+
+void from_json(const Json& json, SharedEntry& entry) { JsonFields::read(json, entry, sharedEntryFields); }
 
 }  // namespace vantello

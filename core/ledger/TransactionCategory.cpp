@@ -1,25 +1,23 @@
 #include "core/ledger/TransactionCategory.hpp"
 
+#include "core/base/JsonFields.hpp"
 #include "core/base/Localization.hpp"
 
 #include <algorithm>
+#include <tuple>
 
 namespace vantello {
 
-void to_json(Json& json, const TransactionCategory& category) {
-    json = Json::object();
-    json["id"] = category.id;
-    json["name"] = category.name;
-    json["symbol"] = category.symbol;
-    json["kind"] = category.kind;
-}
+const auto transactionCategoryFields = std::tuple{
+    JsonFields::required("id", &TransactionCategory::id),
+    JsonFields::required("name", &TransactionCategory::name),
+    JsonFields::required("symbol", &TransactionCategory::symbol),
+    JsonFields::required("kind", &TransactionCategory::kind),
+};
 
-void from_json(const Json& json, TransactionCategory& category) {
-    category.id = JsonCoding::required<std::string>(json, "id");
-    category.name = JsonCoding::required<std::string>(json, "name");
-    category.symbol = JsonCoding::required<std::string>(json, "symbol");
-    category.kind = JsonCoding::required<TransactionKind>(json, "kind");
-}
+void to_json(Json& json, const TransactionCategory& category) { JsonFields::write(json, category, transactionCategoryFields); }
+
+void from_json(const Json& json, TransactionCategory& category) { JsonFields::read(json, category, transactionCategoryFields); }
 
 std::string_view fallbackCategoryID(TransactionKind kind) {
     return kind == TransactionKind::income ? otherIncomeCategoryID : otherExpensesCategoryID;

@@ -366,5 +366,65 @@
             <source>«{file}» non contiene righe da importare.</source>
             <translation>“{file}” contains no rows to import.</translation>
         </message>
+        <message>
+            <source>Movimenti</source>
+            <translation>Movements</translation>
+        </message>
+        <message>
+            <source>Categorie personalizzate</source>
+            <translation>Custom categories</translation>
+        </message>
+        <message>
+            <source>Budget</source>
+            <translation>Budgets</translation>
+        </message>
+        <message>
+            <source>Conti</source>
+            <translation>Accounts</translation>
+        </message>
+        <message>
+            <source>Movimenti ricorrenti</source>
+            <translation>Recurring movements</translation>
+        </message>
+        <message>
+            <source>Regole di categoria</source>
+            <translation>Category rules</translation>
+        </message>
+        <message>
+            <source>Periodi senza lavoro</source>
+            <translation>Periods without work</translation>
+        </message>
+        <message>
+            <source>Ricerche salvate</source>
+            <translation>Saved searches</translation>
+        </message>
+        <message>
+            <source>Obiettivi di risparmio</source>
+            <translation>Savings goals</translation>
+        </message>
+        <message>
+            <source>Prestiti</source>
+            <translation>Loans</translation>
+        </message>
+        <message>
+            <source>Beni</source>
+            <translation>Assets</translation>
+        </message>
+        <message>
+            <source>Abbonamenti ignorati</source>
+            <translation>Ignored subscriptions</translation>
+        </message>
+        <message>
+            <source>Avvisi nascosti</source>
+            <translation>Dismissed alerts</translation>
+        </message>
+        <message>
+            <source>Persone</source>
+            <translation>People</translation>
+        </message>
+        <message>
+            <source>Voci condivise</source>
+            <translation>Shared entries</translation>
+        </message>
     </context>
 </TS>

@@ -1,9 +1,9 @@
 // "check" reports what a data folder's ledger holds, or exactly why it cannot be read.
 
-#include "cli/Commands.hpp"
 #include "CliRunner.hpp"
+#include "cli/Commands.hpp"
 #include "core/base/Json.hpp"
-#include "core/ledger/LedgerStore.hpp"
+#include "core/files/LedgerStore.hpp"
 
 #include <gtest/gtest.h>
 

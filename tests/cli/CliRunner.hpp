@@ -1,11 +1,10 @@
 #pragma once
-// Runs the command line in-process and keeps what it printed; a temporary data folder per test.
+// Runs the command line in-process and keeps what it printed; TemporaryFolderTest gives each
+// test its own data folder.
 
 #include "cli/Commands.hpp"
+#include "support/TemporaryFolder.hpp"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -24,17 +23,5 @@ inline CliOutcome runCli(const std::vector<std::string>& arguments) {
     const int status = cli::run(arguments, out, err);
     return {status, out.str(), err.str()};
 }
-
-// A fixture owning a fresh folder under the system's temporary directory.
-class TemporaryFolderTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        std::string pattern = (std::filesystem::temp_directory_path() / "vantello-test-XXXXXX").string();
-        folder = ::mkdtemp(pattern.data());
-    }
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
-    std::filesystem::path folder;
-};
 
 }  // namespace vantello::testing

@@ -1,8 +1,8 @@
 // "import" previews and merges a statement without ever rewriting an unchanged ledger; "export"
 // writes the chosen movements as CSV.
 
-#include "cli/Commands.hpp"
 #include "CliRunner.hpp"
+#include "cli/Commands.hpp"
 #include "core/base/AtomicFile.hpp"
 #include "core/base/Json.hpp"
 
@@ -20,7 +20,6 @@ namespace fs = std::filesystem;
 class ImportExportCommand : public vantello::testing::TemporaryFolderTest {
 protected:
     void SetUp() override {
-        TemporaryFolderTest::SetUp();
         statement = folder / "estratto.csv";
         std::ofstream(statement) << "Data;Descrizione;Importo;Note\n"
                                     "05/03/2024;POS ESSELUNGA;-12,50;\n"

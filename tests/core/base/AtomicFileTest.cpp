@@ -2,6 +2,8 @@
 
 #include "core/base/AtomicFile.hpp"
 
+#include "support/TemporaryFolder.hpp"
+
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -17,19 +19,9 @@ namespace {
 using namespace vantello;
 namespace fs = std::filesystem;
 
-class AtomicFile : public ::testing::Test {
+class AtomicFile : public vantello::testing::TemporaryFolderTest {
 protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "vantello-atomic-XXXXXX").string();
-        folder = ::mkdtemp(pattern.data());
-    }
-    void TearDown() override {
-        fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add);
-        fs::remove_all(folder);
-    }
     std::size_t entries() const { return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {})); }
-
-    fs::path folder;
 };
 
 TEST_F(AtomicFile, ReplacesContentKeepingPermissions) {

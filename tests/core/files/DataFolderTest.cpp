@@ -2,6 +2,8 @@
 
 #include "core/files/DataFolder.hpp"
 
+#include "support/TemporaryFolder.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -46,8 +48,8 @@ TEST(DataFolder, FollowsXdgDataHomeThenHome) {
 }
 
 TEST(DataFolderLock, RefusesASecondHolderUntilTheFirstLetsGo) {
-    std::string pattern = (fs::temp_directory_path() / "vantello-lock-XXXXXX").string();
-    const fs::path folder = fs::path(::mkdtemp(pattern.data())) / "Vantello";
+    const vantello::testing::TemporaryFolder temporary;
+    const fs::path folder = temporary.path() / "Vantello";
     {
         DataFolderLock first(folder);  // creates the missing folder
         EXPECT_TRUE(fs::exists(folder / "vantello.lock"));
@@ -62,7 +64,6 @@ TEST(DataFolderLock, RefusesASecondHolderUntilTheFirstLetsGo) {
         EXPECT_THROW(DataFolderLock{folder}, DataFolderError);
     }
     EXPECT_NO_THROW(DataFolderLock{folder});
-    fs::remove_all(folder.parent_path());
 }
 
 }  // namespace

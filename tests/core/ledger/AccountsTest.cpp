@@ -1,5 +1,7 @@
 #include "core/ledger/AdvancedError.hpp"
 #include "core/ledger/Ledger.hpp"
+#include "core/ledger/LedgerAccounts.hpp"
+#include "core/ledger/LedgerRecurring.hpp"
 
 #include <gtest/gtest.h>
 
@@ -45,28 +47,28 @@ Ledger withCard(std::vector<Transaction> movements = {}) {
 
 TEST(Accounts, NamesAreTrimmedLimitedAndUniqueIgnoringCaseAndAccents) {
     Ledger ledger = withCard();
-    const Account added = ledger.addAccount("  Càssa\n", "banknote", 20, Decimal(5));
+    const Account added = addAccount(ledger, "  Càssa\n", "banknote", 20, Decimal(5));
     EXPECT_EQ(added.name, "Càssa");
     EXPECT_EQ(added.id, "conto-" + Uuid::parse(added.id.substr(6)).value_or(Uuid()).text());
     EXPECT_EQ(ledger.accounts().back(), added);
-    EXPECT_NO_THROW(ledger.addAccount(std::string(39, 'x') + "😀", "wallet", 0, std::nullopt));
+    EXPECT_NO_THROW(addAccount(ledger, std::string(39, 'x') + "😀", "wallet", 0, std::nullopt));
 
     const Ledger before = ledger;
-    EXPECT_EQ(codeOf([&] { ledger.addAccount(" \n ", "", 0, std::nullopt); }), AdvancedError::Code::emptyName);
-    EXPECT_EQ(codeOf([&] { ledger.addAccount(std::string(41, 'x'), "", 0, std::nullopt); }),
+    EXPECT_EQ(codeOf([&] { addAccount(ledger, " \n ", "", 0, std::nullopt); }), AdvancedError::Code::emptyName);
+    EXPECT_EQ(codeOf([&] { addAccount(ledger, std::string(41, 'x'), "", 0, std::nullopt); }),
               AdvancedError::Code::nameTooLong);
-    EXPECT_EQ(codeOf([&] { ledger.addAccount("CASSA", "", 0, std::nullopt); }), AdvancedError::Code::duplicateAccount);
+    EXPECT_EQ(codeOf([&] { addAccount(ledger, "CASSA", "", 0, std::nullopt); }), AdvancedError::Code::duplicateAccount);
 
     Account renamed = added;
     renamed.name = "carta";
-    EXPECT_EQ(codeOf([&] { ledger.updateAccount(renamed); }), AdvancedError::Code::duplicateAccount);
+    EXPECT_EQ(codeOf([&] { updateAccount(ledger, renamed); }), AdvancedError::Code::duplicateAccount);
     renamed.id = "conto-NESSUNO";
-    EXPECT_EQ(codeOf([&] { ledger.updateAccount(renamed); }), AdvancedError::Code::unknownAccount);
+    EXPECT_EQ(codeOf([&] { updateAccount(ledger, renamed); }), AdvancedError::Code::unknownAccount);
     EXPECT_EQ(ledger, before);
 
     renamed = added;
     renamed.name = " CASSA ";  // its own name in another case is no clash
-    ledger.updateAccount(renamed);
+    updateAccount(ledger, renamed);
     EXPECT_EQ(ledger.account(added.id)->name, "CASSA");
 }
 
@@ -78,8 +80,8 @@ TEST(Accounts, BalancesCountTransfersOnBothSides) {
         movement(TransactionKind::expense, 30, "conto-CARTA"),
     });
     const std::map<std::string, Decimal> expected{{"principale", 750}, {"conto-CARTA", 270}};
-    EXPECT_EQ(ledger.balances(), expected);
-    EXPECT_EQ(ledger.balance("conto-CARTA"), Decimal(270));
+    EXPECT_EQ(accountBalances(ledger), expected);
+    EXPECT_EQ(accountBalance(ledger, "conto-CARTA"), Decimal(270));
 }
 
 TEST(Accounts, DeletingMovesEverythingToMainDissolvingSelfTransfers) {
@@ -95,14 +97,14 @@ TEST(Accounts, DeletingMovesEverythingToMainDissolvingSelfTransfers) {
     rule.categoryID = "giroconto";
     rule.accountID = "principale";
     rule.transferToAccountID = "conto-CARTA";
-    ledger.addRecurringRule(rule);
+    addRecurringRule(ledger, rule);
     const Transaction untouched = ledger.transactions()[3];
     const Ledger before = ledger;
-    EXPECT_EQ(codeOf([&] { ledger.deleteAccount("principale"); }), AdvancedError::Code::mainAccount);
-    EXPECT_EQ(codeOf([&] { ledger.deleteAccount("conto-NESSUNO"); }), AdvancedError::Code::unknownAccount);
+    EXPECT_EQ(codeOf([&] { deleteAccount(ledger, "principale"); }), AdvancedError::Code::mainAccount);
+    EXPECT_EQ(codeOf([&] { deleteAccount(ledger, "conto-NESSUNO"); }), AdvancedError::Code::unknownAccount);
     EXPECT_EQ(ledger, before);
 
-    EXPECT_EQ(ledger.deleteAccount("conto-CARTA"), 3);
+    EXPECT_EQ(deleteAccount(ledger, "conto-CARTA"), 3);
     EXPECT_EQ(ledger.accounts(), std::vector{Account::main()});
     for (const Transaction& transaction : ledger.transactions()) {
         EXPECT_EQ(transaction.accountID, "principale");
@@ -115,7 +117,7 @@ TEST(Accounts, DeletingMovesEverythingToMainDissolvingSelfTransfers) {
     EXPECT_EQ(ledger.transactions()[3], untouched);
     EXPECT_EQ(ledger.recurringRules()[0].transferToAccountID, std::nullopt);
     EXPECT_EQ(ledger.recurringRules()[0].categoryID, "altre-uscite");
-    EXPECT_EQ(ledger.balance("principale"), Decimal(1000 - 30 - 200 - 80));
+    EXPECT_EQ(accountBalance(ledger, "principale"), Decimal(1000 - 30 - 200 - 80));
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
-#include "core/analysis/SavedSearch.hpp"
 #include "core/ledger/Account.hpp"
+#include "core/ledger/Asset.hpp"
 #include "core/ledger/CategoryRule.hpp"
+#include "core/ledger/Loan.hpp"
 #include "core/ledger/Person.hpp"
 #include "core/ledger/RecurringRule.hpp"
+#include "core/ledger/SavedSearch.hpp"
+#include "core/ledger/SavingsGoal.hpp"
 #include "core/ledger/SharedEntry.hpp"
-#include "core/planning/Asset.hpp"
-#include "core/planning/Loan.hpp"
-#include "core/planning/SavingsGoal.hpp"
-#include "core/planning/UnemploymentPeriod.hpp"
+#include "core/ledger/UnemploymentPeriod.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,9 @@
 #include "core/ledger/AdvancedError.hpp"
 #include "core/ledger/Ledger.hpp"
+#include "core/ledger/LedgerAccounts.hpp"
 #include "core/ledger/LedgerError.hpp"
+#include "core/ledger/LedgerRecurring.hpp"
+#include "support/Dates.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +12,8 @@
 namespace vantello {
 namespace {
 
-const Calendar rome("Europe/Rome");
-
-Instant at(int year, int month, int day, int hour = 12) { return *rome.date({year, month, day}, hour); }
+using testing::at;
+using testing::rome;
 
 RecurringRule rule(RecurringRule::Frequency frequency, Instant start, TransactionKind kind = TransactionKind::expense,
                    std::string categoryID = "abbonamenti") {
@@ -36,28 +38,28 @@ std::vector<Instant> datesOf(const Ledger& ledger) {
 TEST(RecurringRule, MonthlyFromEndOfJanuaryClampsAtNoonAndCatchesUpOnce) {
     Ledger ledger;
     RecurringRule monthly = rule(RecurringRule::Frequency::monthly, at(2024, 1, 31, 9));
-    ledger.addRecurringRule(monthly);
+    addRecurringRule(ledger, monthly);
 
-    EXPECT_EQ(ledger.generateDueTransactions(at(2024, 4, 15, 10), rome), 3);
+    EXPECT_EQ(generateDueTransactions(ledger, at(2024, 4, 15, 10), rome()), 3);
     EXPECT_EQ(datesOf(ledger), (std::vector{at(2024, 1, 31), at(2024, 2, 29), at(2024, 3, 31)}));
     EXPECT_EQ(ledger.recurringRules()[0].lastGenerated, at(2024, 3, 31));
     EXPECT_EQ(ledger.transactions()[0].recurringRuleID, monthly.id);
     EXPECT_NE(ledger.transactions()[0].id, ledger.transactions()[1].id);
 
-    EXPECT_EQ(ledger.generateDueTransactions(at(2024, 4, 15, 18), rome), 0);
+    EXPECT_EQ(generateDueTransactions(ledger, at(2024, 4, 15, 18), rome()), 0);
 
     monthly.endDate = at(2024, 4, 20);
-    ledger.updateRecurringRule(monthly);  // the edited copy does not know what was generated
-    EXPECT_EQ(ledger.generateDueTransactions(at(2024, 9, 1), rome), 0);
+    updateRecurringRule(ledger, monthly);  // the edited copy does not know what was generated
+    EXPECT_EQ(generateDueTransactions(ledger, at(2024, 9, 1), rome()), 0);
     EXPECT_EQ(ledger.transactions().size(), 3u);
 }
 
 TEST(RecurringRule, StartAfterNoonIsNotCreatedTwice) {
     Ledger ledger;
-    ledger.addRecurringRule(rule(RecurringRule::Frequency::yearly, at(2024, 2, 29, 15)));
-    EXPECT_EQ(ledger.generateDueTransactions(at(2024, 2, 29, 16), rome), 1);
-    EXPECT_EQ(ledger.generateDueTransactions(at(2024, 3, 1), rome), 0);
-    EXPECT_EQ(ledger.generateDueTransactions(at(2025, 3, 1), rome), 1);
+    addRecurringRule(ledger, rule(RecurringRule::Frequency::yearly, at(2024, 2, 29, 15)));
+    EXPECT_EQ(generateDueTransactions(ledger, at(2024, 2, 29, 16), rome()), 1);
+    EXPECT_EQ(generateDueTransactions(ledger, at(2024, 3, 1), rome()), 0);
+    EXPECT_EQ(generateDueTransactions(ledger, at(2025, 3, 1), rome()), 1);
     EXPECT_EQ(ledger.transactions().back().date, at(2025, 2, 28));
 }
 
@@ -65,21 +67,21 @@ TEST(RecurringRule, SalaryIsNotCreatedForDaysWithoutWorkEvenLater) {
     LedgerData data;
     data.unemploymentPeriods.push_back({Uuid::random(), at(2024, 3, 10, 0), at(2024, 3, 18, 0), ""});
     Ledger ledger(data);
-    ledger.addRecurringRule(rule(RecurringRule::Frequency::weekly, at(2024, 3, 4, 8), TransactionKind::income, "stipendio"));
+    addRecurringRule(ledger, rule(RecurringRule::Frequency::weekly, at(2024, 3, 4, 8), TransactionKind::income, "stipendio"));
 
-    EXPECT_EQ(ledger.generateDueTransactions(at(2024, 3, 20), rome), 1);  // 11 and 18 March skipped
+    EXPECT_EQ(generateDueTransactions(ledger, at(2024, 3, 20), rome()), 1);  // 11 and 18 March skipped
     EXPECT_EQ(ledger.recurringRules()[0].lastGenerated, at(2024, 3, 18));
-    EXPECT_EQ(ledger.generateDueTransactions(at(2024, 4, 2), rome), 2);
+    EXPECT_EQ(generateDueTransactions(ledger, at(2024, 4, 2), rome()), 2);
     EXPECT_EQ(datesOf(ledger), (std::vector{at(2024, 3, 4), at(2024, 3, 25), at(2024, 4, 1)}));
 }
 
 TEST(RecurringRule, TransferRuleCreatesTransfers) {
     Ledger ledger;
-    const Account card = ledger.addAccount("Carta", "creditcard", 0, std::nullopt);
+    const Account card = addAccount(ledger, "Carta", "creditcard", 0, std::nullopt);
     RecurringRule transfer = rule(RecurringRule::Frequency::monthly, at(2024, 1, 5), TransactionKind::income, "giroconto");
     transfer.transferToAccountID = card.id;
-    ledger.addRecurringRule(transfer);
-    ASSERT_EQ(ledger.generateDueTransactions(at(2024, 1, 6), rome), 1);
+    addRecurringRule(ledger, transfer);
+    ASSERT_EQ(generateDueTransactions(ledger, at(2024, 1, 6), rome()), 1);
     const Transaction& created = ledger.transactions()[0];
     EXPECT_EQ(created.kind, TransactionKind::expense);
     EXPECT_EQ(created.categoryID, "giroconto");
@@ -88,28 +90,28 @@ TEST(RecurringRule, TransferRuleCreatesTransfers) {
 
 TEST(RecurringRule, LooksAtNoMoreThanTwoThousandCandidates) {
     Ledger ledger;
-    ledger.addRecurringRule(rule(RecurringRule::Frequency::weekly, at(1975, 1, 6)));
-    EXPECT_EQ(ledger.generateDueTransactions(at(2025, 1, 6), rome), 2000);
-    EXPECT_EQ(ledger.transactions().back().date, *rome.adding(CalendarUnit::weekOfYear, 1999, at(1975, 1, 6)));
+    addRecurringRule(ledger, rule(RecurringRule::Frequency::weekly, at(1975, 1, 6)));
+    EXPECT_EQ(generateDueTransactions(ledger, at(2025, 1, 6), rome()), 2000);
+    EXPECT_EQ(ledger.transactions().back().date, *rome().adding(CalendarUnit::weekOfYear, 1999, at(1975, 1, 6)));
 }
 
 TEST(RecurringRule, NextOccurrenceIsAfterLastGeneratedWithinTwoYears) {
     RecurringRule monthly = rule(RecurringRule::Frequency::monthly, at(2024, 1, 31, 9));
-    EXPECT_EQ(monthly.nextOccurrence(at(2024, 1, 31, 12), rome), at(2024, 2, 29));
+    EXPECT_EQ(monthly.nextOccurrence(at(2024, 1, 31, 12), rome()), at(2024, 2, 29));
     monthly.lastGenerated = at(2024, 3, 31);
-    EXPECT_EQ(monthly.nextOccurrence(at(2024, 2, 1), rome), at(2024, 4, 30));
+    EXPECT_EQ(monthly.nextOccurrence(at(2024, 2, 1), rome()), at(2024, 4, 30));
     monthly.endDate = at(2024, 4, 29);
-    EXPECT_EQ(monthly.nextOccurrence(at(2024, 2, 1), rome), std::nullopt);
+    EXPECT_EQ(monthly.nextOccurrence(at(2024, 2, 1), rome()), std::nullopt);
 
     const RecurringRule later = rule(RecurringRule::Frequency::yearly, at(2027, 1, 1));
-    EXPECT_EQ(later.nextOccurrence(at(2024, 12, 31), rome), std::nullopt);
-    EXPECT_EQ(later.nextOccurrence(at(2025, 1, 2), rome), at(2027, 1, 1));
+    EXPECT_EQ(later.nextOccurrence(at(2024, 12, 31), rome()), std::nullopt);
+    EXPECT_EQ(later.nextOccurrence(at(2025, 1, 2), rome()), at(2027, 1, 1));
 }
 
 TEST(RecurringRule, InvalidRulesLeaveLedgerAsItWas) {
     Ledger ledger;
     const RecurringRule valid = rule(RecurringRule::Frequency::monthly, at(2024, 1, 1));
-    ledger.addRecurringRule(valid);
+    addRecurringRule(ledger, valid);
     const Ledger before = ledger;
     using Change = std::function<void(RecurringRule&)>;
     const std::vector<std::pair<Change, UserError>> refusals{
@@ -127,18 +129,39 @@ TEST(RecurringRule, InvalidRulesLeaveLedgerAsItWas) {
         RecurringRule candidate = rule(RecurringRule::Frequency::monthly, at(2024, 1, 1));
         change(candidate);
         try {
-            ledger.addRecurringRule(candidate);
+            addRecurringRule(ledger, candidate);
             ADD_FAILURE() << "accepted, expected: " << expected.message();
         } catch (const UserError& error) {
             EXPECT_EQ(error.message(), expected.message());
         }
     }
-    EXPECT_THROW(ledger.updateRecurringRule(rule(RecurringRule::Frequency::monthly, at(2024, 1, 1))), LedgerError);
+    EXPECT_THROW(updateRecurringRule(ledger, rule(RecurringRule::Frequency::monthly, at(2024, 1, 1))), LedgerError);
     EXPECT_EQ(ledger, before);
 
     RecurringRule oneDay = rule(RecurringRule::Frequency::monthly, at(2024, 1, 1));
     oneDay.endDate = oneDay.startDate;
-    EXPECT_NO_THROW(ledger.addRecurringRule(oneDay));
+    EXPECT_NO_THROW(addRecurringRule(ledger, oneDay));
+}
+
+TEST(RecurringRule, WithTwoFaultsTheAccountComesFirstThenTheEndThenTheDestination) {
+    Ledger ledger;
+    const auto refusal = [&ledger](const RecurringRule& candidate) {
+        try {
+            addRecurringRule(ledger, candidate);
+        } catch (const UserError& error) {
+            return error.message();
+        }
+        return std::string("accepted");
+    };
+    RecurringRule toItselfEndingEarly = rule(RecurringRule::Frequency::monthly, at(2024, 1, 1));
+    toItselfEndingEarly.transferToAccountID = "principale";
+    toItselfEndingEarly.endDate = at(2023, 12, 31);
+    EXPECT_EQ(refusal(toItselfEndingEarly), AdvancedError(AdvancedError::Code::invalidRecurrence).message());
+
+    RecurringRule nowhereFromUnknown = rule(RecurringRule::Frequency::monthly, at(2024, 1, 1), TransactionKind::expense,
+                                            "giroconto");
+    nowhereFromUnknown.accountID = "conto-X";
+    EXPECT_EQ(refusal(nowhereFromUnknown), AdvancedError(AdvancedError::Code::unknownAccount).message());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "core/ledger/Ledger.hpp"
 
+#include "core/ledger/LedgerSharing.hpp"
 #include "core/ledger/SharedError.hpp"
 
 #include <gtest/gtest.h>
@@ -43,36 +44,36 @@ Decimal cents(std::int64_t value) { return Decimal(value, -2); }
 
 TEST(SharedExpenses, SharesAndEntriesMakeEachPersonsBalance) {
     Ledger ledger;
-    const Person anna = ledger.addPerson("Anna");
-    const Person bruno = ledger.addPerson("Bruno");
-    const Person carla = ledger.addPerson("Carla");
+    const Person anna = addPerson(ledger, "Anna");
+    const Person bruno = addPerson(ledger, "Bruno");
+    const Person carla = addPerson(ledger, "Carla");
     ledger.add(expense(30, {{anna.id, 10}, {bruno.id, 10}}));
-    EXPECT_EQ(ledger.personBalance(anna.id), Decimal(10));
-    EXPECT_EQ(ledger.personBalance(bruno.id), Decimal(10));
+    EXPECT_EQ(personBalance(ledger, anna.id), Decimal(10));
+    EXPECT_EQ(personBalance(ledger, bruno.id), Decimal(10));
 
-    ledger.addSharedEntry(entry(anna, SharedEntry::Kind::paymentReceived, 10));
-    ledger.addSharedEntry(entry(carla, SharedEntry::Kind::theyPaidForMe, 25));
-    EXPECT_EQ(ledger.personBalance(anna.id), Decimal(0));
-    EXPECT_EQ(ledger.personBalance(bruno.id), Decimal(10));
-    EXPECT_EQ(ledger.personBalance(carla.id), Decimal(-25));
+    addSharedEntry(ledger, entry(anna, SharedEntry::Kind::paymentReceived, 10));
+    addSharedEntry(ledger, entry(carla, SharedEntry::Kind::theyPaidForMe, 25));
+    EXPECT_EQ(personBalance(ledger, anna.id), Decimal(0));
+    EXPECT_EQ(personBalance(ledger, bruno.id), Decimal(10));
+    EXPECT_EQ(personBalance(ledger, carla.id), Decimal(-25));
 
     SharedEntry paidBack = entry(carla, SharedEntry::Kind::paymentMade, 25);
     paidBack.id = ledger.sharedEntries().back().id;
-    ledger.updateSharedEntry(paidBack);
-    EXPECT_EQ(ledger.personBalance(carla.id), Decimal(25));
-    ledger.deleteSharedEntry(paidBack.id);
-    EXPECT_EQ(ledger.personBalance(carla.id), Decimal(0));
+    updateSharedEntry(ledger, paidBack);
+    EXPECT_EQ(personBalance(ledger, carla.id), Decimal(25));
+    deleteSharedEntry(ledger, paidBack.id);
+    EXPECT_EQ(personBalance(ledger, carla.id), Decimal(0));
 }
 
 TEST(SharedExpenses, InvalidSharesAndEntriesAreRefusedInOrderChangingNothing) {
     LedgerData withCard;
     withCard.accounts = {Account::main(), {"conto-B", "Carta", "creditcard", 0, std::nullopt}};
     Ledger ledger(withCard);
-    const Person anna = ledger.addPerson("Anna");
+    const Person anna = addPerson(ledger, "Anna");
     const Person stranger{Uuid::random(), "Nessuno"};
     ledger.add(expense(30, {{anna.id, 15}, {anna.id, 15}}));  // exactly the amount
     const SharedEntry kept = entry(anna, SharedEntry::Kind::paymentMade, 5);
-    ledger.addSharedEntry(kept);
+    addSharedEntry(ledger, kept);
 
     Transaction income = expense(30, {{anna.id, 5}});
     income.kind = TransactionKind::income;
@@ -96,16 +97,16 @@ TEST(SharedExpenses, InvalidSharesAndEntriesAreRefusedInOrderChangingNothing) {
         {"unknown person before zero share",
          [&](Ledger& l) { l.add(expense(30, {{anna.id, 0}, {stranger.id, 5}})); }, SharedErrorCode::unknownPerson},
         {"zero share", [&](Ledger& l) { l.add(expense(30, {{anna.id, 0}})); }, SharedErrorCode::amountNotPositive},
-        {"entry of zero", [&](Ledger& l) { l.addSharedEntry(entry(anna, SharedEntry::Kind::paymentMade, 0)); },
+        {"entry of zero", [&](Ledger& l) { addSharedEntry(l, entry(anna, SharedEntry::Kind::paymentMade, 0)); },
          SharedErrorCode::amountNotPositive},
         {"entry for nobody",
-         [&](Ledger& l) { l.addSharedEntry(entry(stranger, SharedEntry::Kind::paymentMade, 5)); },
+         [&](Ledger& l) { addSharedEntry(l, entry(stranger, SharedEntry::Kind::paymentMade, 5)); },
          SharedErrorCode::unknownPerson},
-        {"update of a missing entry", [&](Ledger& l) { l.updateSharedEntry(missing); },
+        {"update of a missing entry", [&](Ledger& l) { updateSharedEntry(l, missing); },
          SharedErrorCode::unknownPerson},
-        {"blank name", [&](Ledger& l) { l.addPerson(" \t\n"); }, SharedErrorCode::emptyName},
-        {"same name", [&](Ledger& l) { l.addPerson("  ÀNNA "); }, SharedErrorCode::duplicateName},
-        {"rename of nobody", [&](Ledger& l) { l.renamePerson(stranger.id, "Bea"); }, SharedErrorCode::unknownPerson},
+        {"blank name", [&](Ledger& l) { addPerson(l, " \t\n"); }, SharedErrorCode::emptyName},
+        {"same name", [&](Ledger& l) { addPerson(l, "  ÀNNA "); }, SharedErrorCode::duplicateName},
+        {"rename of nobody", [&](Ledger& l) { renamePerson(l, stranger.id, "Bea"); }, SharedErrorCode::unknownPerson},
     };
     for (const auto& testCase : cases) {
         SCOPED_TRACE(testCase.name);
@@ -117,43 +118,43 @@ TEST(SharedExpenses, InvalidSharesAndEntriesAreRefusedInOrderChangingNothing) {
 
 TEST(SharedExpenses, PeopleNamesAreTrimmedAndUniqueIgnoringCaseAndAccents) {
     Ledger ledger;
-    const Person anna = ledger.addPerson("  Anna\n");
+    const Person anna = addPerson(ledger, "  Anna\n");
     EXPECT_EQ(anna.name, "Anna");
-    ledger.renamePerson(anna.id, "ANNÀ");  // its own name may change case and accents
+    renamePerson(ledger, anna.id, "ANNÀ");  // its own name may change case and accents
     EXPECT_EQ(ledger.people()[0].name, "ANNÀ");
-    const Person bruno = ledger.addPerson("Bruno");
-    EXPECT_EQ(codeThrownBy([&] { ledger.renamePerson(bruno.id, "anna"); }), SharedErrorCode::duplicateName);
+    const Person bruno = addPerson(ledger, "Bruno");
+    EXPECT_EQ(codeThrownBy([&] { renamePerson(ledger, bruno.id, "anna"); }), SharedErrorCode::duplicateName);
 }
 
 TEST(SharedExpenses, DeletingPersonDropsTheirSharesAndEntriesButKeepsExpenses) {
     Ledger ledger;
-    const Person anna = ledger.addPerson("Anna");
-    const Person bruno = ledger.addPerson("Bruno");
+    const Person anna = addPerson(ledger, "Anna");
+    const Person bruno = addPerson(ledger, "Bruno");
     const Transaction dinner = expense(30, {{anna.id, 10}, {bruno.id, 10}});
     ledger.add(dinner);
-    ledger.addSharedEntry(entry(anna, SharedEntry::Kind::paymentReceived, 10));
-    ledger.addSharedEntry(entry(bruno, SharedEntry::Kind::paymentReceived, 4));
+    addSharedEntry(ledger, entry(anna, SharedEntry::Kind::paymentReceived, 10));
+    addSharedEntry(ledger, entry(bruno, SharedEntry::Kind::paymentReceived, 4));
 
-    ledger.deletePerson(anna.id);
+    deletePerson(ledger, anna.id);
     Transaction expected = dinner;
     expected.shares = {{bruno.id, 10}};
     EXPECT_EQ(*ledger.transaction(dinner.id), expected);
     EXPECT_EQ(ledger.people(), std::vector<Person>{bruno});
     ASSERT_EQ(ledger.sharedEntries().size(), 1u);
-    EXPECT_EQ(ledger.personBalance(bruno.id), Decimal(6));
+    EXPECT_EQ(personBalance(ledger, bruno.id), Decimal(6));
 }
 
 TEST(SharedExpenses, HistoryIsNewestFirstWithReadableDescriptions) {
     Ledger ledger;
-    const Person anna = ledger.addPerson("Anna");
+    const Person anna = addPerson(ledger, "Anna");
     const Transaction groceries = expense(30, {{anna.id, 10}}, 1);
     const Transaction dinner = expense(40, {{anna.id, 20}}, 3, "Pizzeria");
     ledger.add(groceries);
     ledger.add(dinner);
     const SharedEntry back = entry(anna, SharedEntry::Kind::paymentReceived, 5, 2, "contanti");
     const SharedEntry paid = entry(anna, SharedEntry::Kind::theyPaidForMe, 7, 4);
-    ledger.addSharedEntry(back);
-    ledger.addSharedEntry(paid);
+    addSharedEntry(ledger, back);
+    addSharedEntry(ledger, paid);
 
     const std::vector<SharedHistoryItem> expected{
         {paid.id, day(4), SharedEntry::historyLabel(paid.kind), Decimal(-7)},
@@ -161,13 +162,13 @@ TEST(SharedExpenses, HistoryIsNewestFirstWithReadableDescriptions) {
         {back.id, day(2), SharedEntry::historyLabel(back.kind) + " · contanti", Decimal(-5)},
         {groceries.id, day(1), ledger.category("spesa")->name, Decimal(10)},
     };
-    EXPECT_EQ(ledger.personHistory(anna.id), expected);
+    EXPECT_EQ(personHistory(ledger, anna.id), expected);
 }
 
 TEST(SharedExpenses, EqualSplitRoundsDownAndLeavesTheRestToTheUser) {
     const Uuid a = Uuid::random();
     const Uuid b = Uuid::random();
-    EXPECT_EQ(Ledger::equalSplit(10, {a, b}), (std::vector<PersonShare>{{a, cents(333)}, {b, cents(333)}}));
-    EXPECT_EQ(Ledger::equalSplit(cents(5), {a}), (std::vector<PersonShare>{{a, cents(2)}}));  // not 0.03
-    EXPECT_TRUE(Ledger::equalSplit(10, {}).empty());
+    EXPECT_EQ(equalSplit(10, {a, b}), (std::vector<PersonShare>{{a, cents(333)}, {b, cents(333)}}));
+    EXPECT_EQ(equalSplit(cents(5), {a}), (std::vector<PersonShare>{{a, cents(2)}}));  // not 0.03
+    EXPECT_TRUE(equalSplit(10, {}).empty());
 }

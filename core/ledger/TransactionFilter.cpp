@@ -1,0 +1,68 @@
+#include "core/ledger/TransactionFilter.hpp"
+
+#include "core/base/JsonFields.hpp"
+#include "core/base/Localization.hpp"
+
+#include <array>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+namespace vantello {
+
+namespace {
+
+using Period = TransactionFilter::Period;
+
+constexpr std::array<std::pair<Period, std::string_view>, 5> periodNames{{
+    {Period::all, "all"},
+    {Period::thisMonth, "thisMonth"},
+    {Period::thisYear, "thisYear"},
+    {Period::last12Months, "last12Months"},
+    {Period::custom, "custom"},
+}};
+
+}  // namespace
+
+void to_json(Json& json, TransactionFilter::Period period) {
+    for (const auto& [value, name] : periodNames) {
+        if (value == period) {
+            json = std::string(name);
+            return;
+        }
+    }
+    json = "all";
+}
+
+void from_json(const Json& json, TransactionFilter::Period& period) {
+    if (const auto* text = json.get_ptr<const std::string*>()) {
+        for (const auto& [value, name] : periodNames) {
+            if (name == *text) {
+                period = value;
+                return;
+            }
+        }
+    }
+    throw DecodingError(L10n::tr("Periodo di ricerca sconosciuto: {text}", {{"text", json.dump()}}));
+}
+
+const auto transactionFilterFields = std::tuple{
+    // Every condition has a neutral value, so a sparse filter still opens as the search it was.
+    JsonFields::orDefault("text", &TransactionFilter::text, std::string()),
+    JsonFields::orDefault("period", &TransactionFilter::period, TransactionFilter::Period::all),
+    JsonFields::optional("customStart", &TransactionFilter::customStart),
+    JsonFields::optional("customEnd", &TransactionFilter::customEnd),
+    JsonFields::optional("kind", &TransactionFilter::kind),
+    // A std::set comes out in ascending order, so the saved file does not change between saves.
+    JsonFields::orDefault("categoryIDs", &TransactionFilter::categoryIDs),
+    JsonFields::optional("minAmount", &TransactionFilter::minAmount),
+    JsonFields::optional("maxAmount", &TransactionFilter::maxAmount),
+    JsonFields::orDefault("onlyWithAttachments", &TransactionFilter::onlyWithAttachments, false),
+    JsonFields::optional("accountID", &TransactionFilter::accountID),
+};
+
+void to_json(Json& json, const TransactionFilter& filter) { JsonFields::write(json, filter, transactionFilterFields); }
+
+void from_json(const Json& json, TransactionFilter& filter) { JsonFields::read(json, filter, transactionFilterFields); }
+
+}  // namespace vantello

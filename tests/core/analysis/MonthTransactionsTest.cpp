@@ -1,0 +1,48 @@
+#include "core/analysis/MonthTransactions.hpp"
+
+#include "support/Dates.hpp"
+
+#include <gtest/gtest.h>
+
+namespace vantello {
+namespace {
+
+using testing::at;
+using testing::rome;
+
+Transaction movement(Instant date, std::string note) {
+    Transaction made;
+    made.id = Uuid::random();
+    made.kind = TransactionKind::expense;
+    made.amount = 10;
+    made.date = date;
+    made.categoryID = "spesa";
+    made.note = std::move(note);
+    return made;
+}
+
+std::vector<std::string> notesOf(const std::vector<Transaction>& transactions) {
+    std::vector<std::string> notes;
+    for (const Transaction& transaction : transactions) notes.push_back(transaction.note);
+    return notes;
+}
+
+// Midnight in Rome is still the previous day in UTC: the month is the user's, not UTC's.
+TEST(MonthTransactions, MonthIsTakenInTheCalendarsZoneNewestFirst) {
+    LedgerData data;
+    data.transactions = std::vector{
+        movement(at(2024, 2, 29, 23, 59, 59), "fine febbraio"),
+        movement(at(2024, 3, 1, 0, 30), "inizio marzo"),
+        movement(at(2024, 3, 15), "metà marzo"),
+        movement(at(2024, 3, 31, 23, 59, 59), "fine marzo"),
+        movement(at(2024, 4, 1, 0, 0), "inizio aprile"),
+    };
+    const Ledger ledger(data);
+
+    EXPECT_EQ(notesOf(monthTransactions(ledger, at(2024, 3, 10), rome())),
+              (std::vector<std::string>{"fine marzo", "metà marzo", "inizio marzo"}));
+    EXPECT_TRUE(monthTransactions(ledger, at(2023, 3, 10), rome()).empty());
+}
+
+}  // namespace
+}  // namespace vantello

@@ -12,6 +12,8 @@
 
 #include "core/base/Json.hpp"
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -83,6 +85,33 @@ template <typename Record, typename Value>
 template <typename Record, typename Value>
 [[nodiscard]] OmittedWhenEmpty<Record, Value> omittedWhenEmpty(std::string_view key, Value Record::*member) {
     return {key, member};
+}
+
+// An enumeration kept in files as one of its names.
+template <typename Enum, std::size_t count>
+using EnumNames = std::array<std::pair<Enum, std::string_view>, count>;
+
+template <typename Enum, std::size_t count>
+void writeName(Json& json, Enum value, const EnumNames<Enum, count>& names) {
+    for (const auto& [candidate, name] : names) {
+        if (candidate == value) {
+            json = std::string(name);
+            return;
+        }
+    }
+    json = std::string(names.front().second);
+}
+
+// One of the names; anything else is a DecodingError with `unknownMessage`, a catalogue key whose
+// {text} receives the value found.
+template <typename Enum, std::size_t count>
+[[nodiscard]] Enum readName(const Json& json, const EnumNames<Enum, count>& names, std::string_view unknownMessage) {
+    if (const auto* text = json.get_ptr<const std::string*>()) {
+        for (const auto& [value, name] : names) {
+            if (name == *text) return value;
+        }
+    }
+    throw DecodingError(L10n::tr(unknownMessage, {{"text", json.dump()}}));
 }
 
 template <typename Record, typename... Fields>

@@ -15,7 +15,7 @@ namespace {
 
 using Frequency = RecurringRule::Frequency;
 
-constexpr std::array<std::pair<Frequency, std::string_view>, 3> frequencyNames{{
+constexpr JsonFields::EnumNames<Frequency, 3> frequencyNames{{
     {Frequency::weekly, "weekly"},
     {Frequency::monthly, "monthly"},
     {Frequency::yearly, "yearly"},
@@ -23,26 +23,10 @@ constexpr std::array<std::pair<Frequency, std::string_view>, 3> frequencyNames{{
 
 }  // namespace
 
-void to_json(Json& json, RecurringRule::Frequency frequency) {
-    for (const auto& [value, name] : frequencyNames) {
-        if (value == frequency) {
-            json = std::string(name);
-            return;
-        }
-    }
-    json = "monthly";
-}
+void to_json(Json& json, RecurringRule::Frequency frequency) { JsonFields::writeName(json, frequency, frequencyNames); }
 
 void from_json(const Json& json, RecurringRule::Frequency& frequency) {
-    if (const auto* text = json.get_ptr<const std::string*>()) {
-        for (const auto& [value, name] : frequencyNames) {
-            if (name == *text) {
-                frequency = value;
-                return;
-            }
-        }
-    }
-    throw DecodingError(L10n::tr("Frequenza sconosciuta: {text}", {{"text", json.dump()}}));
+    frequency = JsonFields::readName(json, frequencyNames, L10n::key("Frequenza sconosciuta: {text}"));
 }
 
 const auto recurringRuleFields = std::tuple{

@@ -14,7 +14,7 @@ namespace {
 
 using Period = TransactionFilter::Period;
 
-constexpr std::array<std::pair<Period, std::string_view>, 5> periodNames{{
+constexpr JsonFields::EnumNames<Period, 5> periodNames{{
     {Period::all, "all"},
     {Period::thisMonth, "thisMonth"},
     {Period::thisYear, "thisYear"},
@@ -24,26 +24,10 @@ constexpr std::array<std::pair<Period, std::string_view>, 5> periodNames{{
 
 }  // namespace
 
-void to_json(Json& json, TransactionFilter::Period period) {
-    for (const auto& [value, name] : periodNames) {
-        if (value == period) {
-            json = std::string(name);
-            return;
-        }
-    }
-    json = "all";
-}
+void to_json(Json& json, TransactionFilter::Period period) { JsonFields::writeName(json, period, periodNames); }
 
 void from_json(const Json& json, TransactionFilter::Period& period) {
-    if (const auto* text = json.get_ptr<const std::string*>()) {
-        for (const auto& [value, name] : periodNames) {
-            if (name == *text) {
-                period = value;
-                return;
-            }
-        }
-    }
-    throw DecodingError(L10n::tr("Periodo di ricerca sconosciuto: {text}", {{"text", json.dump()}}));
+    period = JsonFields::readName(json, periodNames, L10n::key("Periodo di ricerca sconosciuto: {text}"));
 }
 
 const auto transactionFilterFields = std::tuple{

@@ -99,6 +99,12 @@ std::string day(CivilDate date) {
     return text;
 }
 
+std::string month(CivilDate date) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%04d-%02d", date.year, date.month);
+    return text;
+}
+
 std::optional<Instant> parse(std::string_view text) {
     Reader reader(text);
     const auto year = reader.digits(4);

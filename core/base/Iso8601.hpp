@@ -21,5 +21,7 @@ namespace vantello::Iso8601 {
 
 // A calendar day alone: "2025-03-01". The parts are written as they are, without a check.
 [[nodiscard]] std::string day(CivilDate date);
+// A calendar month: "2025-03", the key of a month in identifiers and reports.
+[[nodiscard]] std::string month(CivilDate date);
 
 }  // namespace vantello::Iso8601

@@ -1,6 +1,7 @@
 #include "core/files/LedgerFileReader.hpp"
 
 #include "core/base/SideBySide.hpp"
+#include "core/files/MovementFastReader.hpp"
 
 #include <string>
 #include <utility>
@@ -57,9 +58,30 @@ struct Stretch {
     std::size_t arrayClose = 0;  // set by the stretch that reaches the end of the array
 };
 
+// Parses one movement into a JSON tree and converts it, as the whole-document reader would;
+// false when the text is no JSON, and the caller then parses the whole text instead.
+bool readOrdinarily(std::string_view movement, Stretch& stretch) {
+    Json element;
+    try {
+        element = Json::parse(movement);
+    } catch (const Json::exception&) {
+        stretch.readable = false;
+        return false;
+    }
+    if (!stretch.conversionError) {
+        try {
+            stretch.transactions.push_back(JsonCoding::convert<Transaction>(element, "transactions"));
+        } catch (...) {
+            stretch.conversionError = std::current_exception();
+        }
+    }
+    return true;
+}
+
 // Reads the movements from the one whose "{" is at `begin` up to the one ending at `stop`,
 // or, when `stop` is npos, to the end of the array.
 void readStretch(std::string_view text, std::size_t begin, std::size_t stop, Stretch& stretch) {
+    MovementFastReader fastReader;
     std::size_t start = begin;
     for (;;) {
         const auto close = text.find(movementEnd, start);
@@ -68,19 +90,11 @@ void readStretch(std::string_view text, std::size_t begin, std::size_t stop, Str
             return;
         }
         const std::size_t end = close + movementEnd.size();
-        Json element;
-        try {
-            element = Json::parse(text.substr(start, end - start));
-        } catch (const Json::exception&) {
-            stretch.readable = false;
+        const std::string_view movement = text.substr(start, end - start);
+        if (auto transaction = fastReader.read(movement, text.size() - start)) {
+            if (!stretch.conversionError) stretch.transactions.push_back(std::move(*transaction));
+        } else if (!readOrdinarily(movement, stretch)) {
             return;
-        }
-        if (!stretch.conversionError) {
-            try {
-                stretch.transactions.push_back(JsonCoding::convert<Transaction>(element, "transactions"));
-            } catch (...) {
-                stretch.conversionError = std::current_exception();
-            }
         }
         if (end == stop) return;
         const auto after = text.substr(end);

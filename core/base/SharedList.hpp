@@ -140,6 +140,17 @@ public:
         if (erased > 0) dropEmptyChunksAndRecount(mutableStorage());
         return erased;
     }
+    // Appends the elements of `other` by sharing its chunks: nothing is copied.
+    void append(const SharedList& other) {
+        if (other.empty()) return;
+        Storage& storage = mutableStorage();
+        const Storage& appended = *other.storage_;
+        for (std::size_t chunk = 0; chunk < appended.chunks.size(); ++chunk) {
+            storage.starts.push_back(storage.size + appended.starts[chunk]);
+            storage.chunks.push_back(appended.chunks[chunk]);
+        }
+        storage.size += appended.size;
+    }
     // Stable sort of the elements.
     template <typename Less>
     void stableSort(Less&& less) {

@@ -52,7 +52,7 @@ bool endsAtTopLevel(std::string_view prefix) {
 // the layout is not the expected one or a piece does not parse: the caller then parses the
 // whole text instead, which either reads it after all or reports the fault with its position.
 struct Stretch {
-    std::vector<Transaction> transactions;
+    SharedList<Transaction> transactions;
     std::exception_ptr conversionError;
     bool readable = true;
     std::size_t arrayClose = 0;  // set by the stretch that reaches the end of the array
@@ -162,14 +162,13 @@ std::optional<LedgerFileText> readLaidOutFile(std::string_view text) {
     if (!document) return std::nullopt;
     result.document = std::move(*document);
 
-    std::size_t count = 0;
-    for (const Stretch& stretch : stretches) count += stretch.transactions.size();
+    // The stretches' chunks are taken over as they are, so the movements are never held twice.
     SharedList<Transaction> transactions;
-    transactions.reserve(count);
     for (Stretch& stretch : stretches) {
         if (stretch.conversionError && !result.transactionError) result.transactionError = stretch.conversionError;
         if (result.transactionError) break;
-        for (Transaction& transaction : stretch.transactions) transactions.push_back(std::move(transaction));
+        transactions.append(stretch.transactions);
+        stretch.transactions = {};
     }
     result.transactions = std::move(transactions);
     return result;

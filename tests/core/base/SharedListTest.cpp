@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <numeric>
 #include <string>
 
 using vantello::SharedList;
@@ -75,4 +76,26 @@ TEST(SharedList, IteratesAndSortsStablyAcrossChunks) {
     EXPECT_EQ(std::distance(list.begin(), list.end()), 700);
     EXPECT_EQ((list.begin() + 513)->second, values[513].second);
     EXPECT_EQ(list.back(), values.back());
+}
+
+TEST(SharedList, AppendingSharesChunksYetChangesStayApart) {
+    SharedList<int> first;
+    SharedList<int> second;
+    std::vector<int> expected;
+    for (int i = 0; i < 300; ++i) first.push_back(i), expected.push_back(i);  // a part-filled last chunk
+    for (int i = 300; i < 900; ++i) second.push_back(i), expected.push_back(i);
+
+    first.append(second);
+    first.push_back(900);
+    expected.push_back(900);
+    first.update(450, [](int& value) { value = -1; });
+    expected[450] = -1;
+
+    EXPECT_EQ(first.toVector(), expected);
+    EXPECT_EQ(first[299], 299);
+    EXPECT_EQ(first[300], 300);
+    // The chunk shared with `second` was copied before the change.
+    std::vector<int> secondValues(600);
+    std::iota(secondValues.begin(), secondValues.end(), 300);
+    EXPECT_EQ(second.toVector(), secondValues);
 }

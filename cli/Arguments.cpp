@@ -26,7 +26,8 @@ Arguments Arguments::parse(const std::vector<std::string>& arguments, const Argu
 
         const auto equals = argument.find('=');
         const std::string name = argument.substr(0, equals);
-        const bool takesValue = name == dataDirOption || rules.valueOptions.contains(name);
+        const bool repeated = rules.repeatedOptions.contains(name);
+        const bool takesValue = name == dataDirOption || rules.valueOptions.contains(name) || repeated;
         if (!takesValue && !rules.flags.contains(name)) throw ArgumentError("Opzione sconosciuta: " + name);
 
         if (!takesValue) {
@@ -43,6 +44,10 @@ Arguments Arguments::parse(const std::vector<std::string>& arguments, const Argu
             throw ArgumentError("Manca il valore dell'opzione " + name + ".");
         }
         if (value.empty()) throw ArgumentError("Manca il valore dell'opzione " + name + ".");
+        if (repeated) {
+            parsed.repeatedValues_[name].push_back(std::move(value));
+            continue;
+        }
         if (!parsed.values_.emplace(name, std::move(value)).second) {
             throw ArgumentError("L'opzione " + name + " compare più di una volta.");
         }
@@ -59,6 +64,12 @@ Arguments Arguments::parse(const std::vector<std::string>& arguments, const Argu
 std::optional<std::string> Arguments::value(std::string_view option) const {
     const auto found = values_.find(option);
     if (found == values_.end()) return std::nullopt;
+    return found->second;
+}
+
+std::vector<std::string> Arguments::values(std::string_view option) const {
+    const auto found = repeatedValues_.find(option);
+    if (found == repeatedValues_.end()) return {};
     return found->second;
 }
 

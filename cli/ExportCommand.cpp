@@ -1,6 +1,7 @@
 #include "cli/ExportCommand.hpp"
 
 #include "cli/Arguments.hpp"
+#include "cli/DayOption.hpp"
 #include "core/analysis/MonthTransactions.hpp"
 #include "core/base/AtomicFile.hpp"
 #include "core/base/Calendar.hpp"
@@ -8,28 +9,9 @@
 #include "core/ledger/Ledger.hpp"
 #include "core/statements/CSVExport.hpp"
 
-#include <charconv>
 #include <optional>
 
 namespace vantello::cli {
-
-namespace {
-
-// "AAAA-MM" exactly: four digits, a hyphen, two digits, a month 1...12.
-std::optional<CivilDate> monthOf(std::string_view text) {
-    if (text.size() != 7 || text[4] != '-') return std::nullopt;
-    int year = 0;
-    int month = 0;
-    const auto digits = [](std::string_view part, int& value) {
-        const auto [end, error] = std::from_chars(part.data(), part.data() + part.size(), value);
-        return error == std::errc() && end == part.data() + part.size();
-    };
-    if (!digits(text.substr(0, 4), year) || !digits(text.substr(5, 2), month)) return std::nullopt;
-    if (year < 1 || month < 1 || month > 12) return std::nullopt;
-    return CivilDate{year, month, 1};
-}
-
-}  // namespace
 
 int runExport(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
     Arguments parsed;
@@ -47,7 +29,7 @@ int runExport(const std::vector<std::string>& arguments, std::ostream& out, std:
         const auto monthText = parsed.value("--month");
         if (monthText.has_value() == parsed.has("--all")) throw ArgumentError("Scegli --month AAAA-MM oppure --all.");
         if (monthText) {
-            month = monthOf(*monthText);
+            month = monthOption(*monthText);
             if (!month) throw ArgumentError("Valore non valido per --month: «" + *monthText + "» (serve AAAA-MM).");
         }
         if (const auto locale = parsed.value("--locale")) {

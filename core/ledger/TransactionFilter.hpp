@@ -14,6 +14,9 @@ namespace vantello {
 
 struct TransactionFilter {
     enum class Period { all, thisMonth, thisYear, last12Months, custom };
+    // The text condition prepared once per search (amount, matching categories, fast path);
+    // defined with the search itself in core/analysis/TransactionQuery.hpp.
+    struct Query;
 
     std::string text;
     Period period = Period::all;

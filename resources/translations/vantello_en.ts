@@ -426,5 +426,53 @@
             <source>Voci condivise</source>
             <translation>Shared entries</translation>
         </message>
+        <message>
+            <source>Non ci sono ancora mesi precedenti: la spesa variabile è stimata dai giorni già passati di questo mese, moltiplicata per i giorni che restano ({giorni}).</source>
+            <translation>There are no earlier months yet: variable spending is estimated from the days of this month so far, multiplied by the days remaining ({giorni}).</translation>
+        </message>
+        <message>
+            <source>Spesa variabile stimata: la media giornaliera dei mesi precedenti ({mesi}), esclusi i movimenti ricorrenti, moltiplicata per i giorni che restano ({giorni}).</source>
+            <translation>Estimated variable spending: the daily average of the previous months ({mesi}), excluding recurring movements, multiplied by the days remaining ({giorni}).</translation>
+        </message>
+        <message>
+            <source>Possibile addebito doppio</source>
+            <translation>Possible double charge</translation>
+        </message>
+        <message>
+            <source>«{nota}» da {importo} compare due volte, il {data1} e il {data2}.</source>
+            <translation>“{nota}” for {importo} appears twice, on {data1} and on {data2}.</translation>
+        </message>
+        <message>
+            <source>Saldo basso: {conto}</source>
+            <translation>Low balance: {conto}</translation>
+        </message>
+        <message>
+            <source>Il saldo è {saldo}, sotto la soglia di {soglia} che hai scelto.</source>
+            <translation>The balance is {saldo}, below the threshold of {soglia} you chose.</translation>
+        </message>
+        <message>
+            <source>Previsione di fine mese negativa</source>
+            <translation>Negative end-of-month forecast</translation>
+        </message>
+        <message>
+            <source>Al ritmo attuale il mese chiude a {saldo}.</source>
+            <translation>At the current pace the month closes at {saldo}.</translation>
+        </message>
+        <message>
+            <source>Scrivi un nome per la ricerca.</source>
+            <translation>Enter a name for the search.</translation>
+        </message>
+        <message>
+            <source>Tipo di avviso sconosciuto: {text}</source>
+            <translation>Unknown alert kind: {text}</translation>
+        </message>
+        <message>
+            <source>Spesa insolita: {categoria}</source>
+            <translation>Unusual spending: {categoria}</translation>
+        </message>
+        <message>
+            <source>Questo mese hai già speso {speso} in {categoria}, il {percentuale} in più della tua media mensile ({media}).</source>
+            <translation>This month you have already spent {speso} on {categoria}, {percentuale} more than your monthly average ({media}).</translation>
+        </message>
     </context>
 </TS>

@@ -6,6 +6,7 @@
 #
 #   sh bench/compare-with-peers.sh [BUILD_DIR]          from the repository root
 #   SIZES="10k 100k 1m" RUNS=5 sh bench/compare-with-peers.sh
+#   KEEP=1 SIZES=1m RUNS=3 sh bench/compare-with-peers.sh     adds to the results of the previous run
 #
 # Needs the data sets in ../shared/bench/data (python3 bench/gen.py there) and, for the peers,
 # the Debian packages hledger and ledger. Writes ../shared/bench/data/vantello-results.jsonl.
@@ -18,7 +19,7 @@ SIZES=${SIZES:-"10k 100k"}
 RUNS=${RUNS:-5}
 cd ../shared
 results=bench/data/vantello-results.jsonl
-rm -f "$results"
+[ "${KEEP:-0}" = 1 ] || rm -f "$results"
 
 label() { case $1 in 10k) echo 10,000 ;; 100k) echo 100,000 ;; 1m) echo 1,000,000 ;; esac; }
 timed() {

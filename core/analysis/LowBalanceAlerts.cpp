@@ -13,9 +13,19 @@ std::vector<SmartAlert> lowBalanceAlerts(const Ledger& ledger, Instant now, cons
     std::vector<SmartAlert> alerts;
     // The month in the id lets a dismissed warning come back next month if the balance stays low.
     const std::string month = monthKey(now, calendar);
+    std::vector<const Account*> watched;
+    std::vector<std::string> watchedIDs;
     for (const Account& account : ledger.accounts()) {
         if (!account.lowBalanceThreshold) continue;
-        const Decimal balance = accountBalance(ledger, account.id);
+        watched.push_back(&account);
+        watchedIDs.push_back(account.id);
+    }
+    if (watched.empty()) return alerts;
+    // One walk over the movements for all the watched accounts.
+    const std::vector<Decimal> balances = accountBalances(ledger, watchedIDs);
+    for (std::size_t index = 0; index < watched.size(); ++index) {
+        const Account& account = *watched[index];
+        const Decimal& balance = balances[index];
         if (!(balance < *account.lowBalanceThreshold)) continue;
         SmartAlert alert;
         alert.id = "saldo-basso-" + account.id + "-" + month;

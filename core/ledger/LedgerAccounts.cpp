@@ -54,16 +54,16 @@ bool refersTo(const Record& record, std::string_view accountID) {
            (record.transferToAccountID && *record.transferToAccountID == accountID);
 }
 
-// Adds the movement's effect to the balances of the accounts it involves.
+// Calls apply(account, adds) for each account the movement changes: `adds` is false for money
+// leaving the account. Income adds, an expense subtracts, a transfer subtracts from its account
+// and adds to its destination.
 template <typename Apply>
 void forEachEffect(const Transaction& transaction, Apply&& apply) {
     if (transaction.transferToAccountID) {
-        apply(transaction.accountID, -transaction.amount);
-        apply(*transaction.transferToAccountID, transaction.amount);
-    } else if (transaction.kind == TransactionKind::income) {
-        apply(transaction.accountID, transaction.amount);
+        apply(transaction.accountID, false);
+        apply(*transaction.transferToAccountID, true);
     } else {
-        apply(transaction.accountID, -transaction.amount);
+        apply(transaction.accountID, transaction.kind == TransactionKind::income);
     }
 }
 
@@ -111,26 +111,40 @@ int deleteAccount(Ledger& ledger, std::string_view id) {
 }
 
 Decimal accountBalance(const Ledger& ledger, std::string_view accountID) {
-    const Account* found = ledger.account(accountID);
-    Decimal total = found ? found->openingBalance : Decimal();
-    for (const Transaction& transaction : ledger.transactions()) {
-        forEachEffect(transaction, [&](const std::string& affected, const Decimal& effect) {
-            if (affected == accountID) total += effect;
-        });
-    }
-    return total;
+    return accountBalances(ledger, {std::string(accountID)}).front();
 }
 
-std::map<std::string, Decimal> accountBalances(const Ledger& ledger) {
-    std::map<std::string, Decimal> totals;
-    for (const Account& account : ledger.accounts()) totals.emplace(account.id, account.openingBalance);
+std::vector<Decimal> accountBalances(const Ledger& ledger, const std::vector<std::string>& accountIDs) {
+    std::vector<Decimal> totals;
+    totals.reserve(accountIDs.size());
+    for (const std::string& id : accountIDs) {
+        const Account* account = ledger.account(id);
+        totals.push_back(account ? account->openingBalance : Decimal());
+    }
+    // Accounts are few, so a straight look along the list is the quickest way to find one.
     for (const Transaction& transaction : ledger.transactions()) {
-        forEachEffect(transaction, [&](const std::string& affected, const Decimal& effect) {
-            // Movements on an account that no longer exists have no balance to go to.
-            if (auto entry = totals.find(affected); entry != totals.end()) entry->second += effect;
+        forEachEffect(transaction, [&](const std::string& affected, bool adds) {
+            for (std::size_t index = 0; index < accountIDs.size(); ++index) {
+                if (affected != accountIDs[index]) continue;
+                if (adds) {
+                    totals[index] += transaction.amount;
+                } else {
+                    totals[index] -= transaction.amount;
+                }
+            }
         });
     }
     return totals;
+}
+
+std::map<std::string, Decimal> accountBalances(const Ledger& ledger) {
+    std::vector<std::string> ids;
+    for (const Account& account : ledger.accounts()) ids.push_back(account.id);
+    std::vector<Decimal> totals = accountBalances(ledger, ids);
+    // Movements on an account that no longer exists have no balance to go to.
+    std::map<std::string, Decimal> balances;
+    for (std::size_t index = 0; index < ids.size(); ++index) balances.emplace(ids[index], std::move(totals[index]));
+    return balances;
 }
 
 }  // namespace vantello

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantello {
 
@@ -22,5 +23,7 @@ int deleteAccount(Ledger& ledger, std::string_view id);
 // Opening balance plus income, minus expenses, minus transfers out, plus transfers in.
 [[nodiscard]] Decimal accountBalance(const Ledger& ledger, std::string_view accountID);
 [[nodiscard]] std::map<std::string, Decimal> accountBalances(const Ledger& ledger);
+// The balances of the given accounts, in their order, in one walk over the movements.
+[[nodiscard]] std::vector<Decimal> accountBalances(const Ledger& ledger, const std::vector<std::string>& accountIDs);
 
 }  // namespace vantello

@@ -1,7 +1,7 @@
 // The monthly report by category over a large ledger (100,000 movements over ten years),
 // without the load: every month's income and expense totals per category.
 
-#include "bench/LedgerGenerator.hpp"
+#include "bench/GeneratedLedger.hpp"
 #include "core/analysis/MonthlyCategoryTotals.hpp"
 #include "core/ledger/Ledger.hpp"
 
@@ -12,8 +12,8 @@ namespace {
 using namespace vantello;
 
 void MonthlyCategoryTotalsOfWholeHistory(benchmark::State& state) {
-    const Ledger ledger(bench::LedgerGenerator().generate());
-    const Calendar calendar("Europe/Rome");
+    const Ledger& ledger = bench::generatedLedger();
+    const Calendar& calendar = bench::romeCalendar();
     for (auto _ : state) {
         auto months = monthlyCategoryTotals(ledger, std::nullopt, calendar);
         benchmark::DoNotOptimize(months);

@@ -3,7 +3,7 @@
 // plain or with an accent, which cannot take the ASCII fast path) or by structured conditions
 // (the last twelve months, expenses of two categories between 20 and 100 € on the main account).
 
-#include "bench/LedgerGenerator.hpp"
+#include "bench/GeneratedLedger.hpp"
 #include "core/analysis/SmartAlerts.hpp"
 #include "core/analysis/TransactionSearch.hpp"
 #include "core/ledger/Ledger.hpp"
@@ -17,15 +17,10 @@ namespace {
 
 using namespace vantello;
 
-const Calendar rome("Europe/Rome");
+using bench::benchNow;
+using bench::generatedLedger;
 
-const Ledger& generatedLedger() {
-    static const Ledger ledger(bench::LedgerGenerator().generate(100'000));
-    return ledger;
-}
-
-// Mid-December 2024, near the end of the generated history, at noon in Rome.
-Instant benchNow() { return *rome.date(CivilDate{2024, 12, 15}, 12); }
+const Calendar& rome = bench::romeCalendar();
 
 void runSearch(benchmark::State& state, const TransactionFilter& filter) {
     const Ledger& ledger = generatedLedger();

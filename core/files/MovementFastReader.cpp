@@ -34,40 +34,22 @@ bool readOptionalText(dom::element value, std::optional<std::string>& out) {
     return readText(value, out.emplace());
 }
 
-bool readUuid(dom::element value, Uuid& out) {
+// A string read by `parse` (which gives nothing for a text it refuses) into `out`.
+template <typename Value, typename Parse>
+bool readParsed(dom::element value, Value& out, Parse&& parse) {
     std::string_view text;
     if (value.get_string().get(text)) return false;
-    const auto parsed = Uuid::parse(text);
-    if (!parsed) return false;
-    out = *parsed;
-    return true;
-}
-
-bool readDecimal(dom::element value, Decimal& out) {
-    std::string_view text;
-    if (value.get_string().get(text)) return false;
-    auto parsed = Decimal::fromCanonical(text);
+    auto parsed = parse(text);
     if (!parsed) return false;
     out = std::move(*parsed);
     return true;
 }
 
-bool readInstant(dom::element value, Instant& out) {
-    std::string_view text;
-    if (value.get_string().get(text)) return false;
-    const auto parsed = Iso8601::parse(text);
-    if (!parsed) return false;
-    out = *parsed;
-    return true;
-}
-
+bool readUuid(dom::element value, Uuid& out) { return readParsed(value, out, Uuid::parse); }
+bool readDecimal(dom::element value, Decimal& out) { return readParsed(value, out, Decimal::fromCanonical); }
+bool readInstant(dom::element value, Instant& out) { return readParsed(value, out, Iso8601::parse); }
 bool readKind(dom::element value, TransactionKind& out) {
-    std::string_view text;
-    if (value.get_string().get(text)) return false;
-    const auto kind = transactionKindFromFileText(text);
-    if (!kind) return false;
-    out = *kind;
-    return true;
+    return readParsed(value, out, transactionKindFromFileText);
 }
 
 // Reads an object whose keys are all known to `readField` and each given once; `seen` collects

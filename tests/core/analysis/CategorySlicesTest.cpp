@@ -1,6 +1,6 @@
 #include "core/analysis/CategorySlices.hpp"
 
-#include "core/analysis/MovementBuilders.hpp"
+#include "support/Movements.hpp"
 
 #include <gtest/gtest.h>
 

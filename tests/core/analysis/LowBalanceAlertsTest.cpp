@@ -3,6 +3,7 @@
 #include "core/ledger/LedgerAccounts.hpp"
 #include "support/Dates.hpp"
 #include "support/ItalianLocale.hpp"
+#include "support/Movements.hpp"
 
 #include <gtest/gtest.h>
 
@@ -10,27 +11,18 @@ namespace vantello {
 namespace {
 
 using testing::at;
+using testing::expense;
 using testing::rome;
-
-Transaction expense(Decimal amount, std::string accountID) {
-    Transaction made;
-    made.id = Uuid::random();
-    made.amount = amount;
-    made.date = at(2025, 3, 2);
-    made.categoryID = "spesa";
-    made.accountID = std::move(accountID);
-    return made;
-}
 
 TEST(LowBalanceAlerts, OnlyABalanceStrictlyBelowTheThreshold) {
     const testing::ItalianLocale italian;
     Ledger ledger;
     const Account card = addAccount(ledger, "Carta", "creditcard", 150, Decimal(100));
-    ledger.add(expense(50, card.id));
-    ledger.add(expense(500, std::string(mainAccountID)));  // far below zero, but the main account has no threshold
+    ledger.add(expense("50", at(2025, 3, 2), "spesa", card.id));
+    ledger.add(expense("500", at(2025, 3, 2)));  // far below zero, but the main account has no threshold
     EXPECT_TRUE(lowBalanceAlerts(ledger, at(2025, 3, 20), rome()).empty());
 
-    ledger.add(expense(Decimal(1, -2), card.id));
+    ledger.add(expense("0.01", at(2025, 3, 2), "spesa", card.id));
     const auto alerts = lowBalanceAlerts(ledger, at(2025, 3, 20), rome());
     ASSERT_EQ(alerts.size(), 1u);
     EXPECT_EQ(alerts[0].id, "saldo-basso-" + card.id + "-2025-03");

@@ -1,8 +1,8 @@
 #include "core/analysis/MonthSummary.hpp"
 
-#include "core/analysis/MovementBuilders.hpp"
 #include "core/ledger/LedgerAccounts.hpp"
 #include "support/Dates.hpp"
+#include "support/Movements.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "core/analysis/MonthTransactions.hpp"
 
 #include "support/Dates.hpp"
+#include "support/Movements.hpp"
 
 #include <gtest/gtest.h>
 
@@ -8,18 +9,9 @@ namespace vantello {
 namespace {
 
 using testing::at;
+using testing::expense;
+using testing::noted;
 using testing::rome;
-
-Transaction movement(Instant date, std::string note) {
-    Transaction made;
-    made.id = Uuid::random();
-    made.kind = TransactionKind::expense;
-    made.amount = 10;
-    made.date = date;
-    made.categoryID = "spesa";
-    made.note = std::move(note);
-    return made;
-}
 
 std::vector<std::string> notesOf(const std::vector<Transaction>& transactions) {
     std::vector<std::string> notes;
@@ -31,11 +23,11 @@ std::vector<std::string> notesOf(const std::vector<Transaction>& transactions) {
 TEST(MonthTransactions, MonthIsTakenInTheCalendarsZoneNewestFirst) {
     LedgerData data;
     data.transactions = std::vector{
-        movement(at(2024, 2, 29, 23, 59, 59), "fine febbraio"),
-        movement(at(2024, 3, 1, 0, 30), "inizio marzo"),
-        movement(at(2024, 3, 15), "metà marzo"),
-        movement(at(2024, 3, 31, 23, 59, 59), "fine marzo"),
-        movement(at(2024, 4, 1, 0, 0), "inizio aprile"),
+        noted(expense("10", at(2024, 2, 29, 23, 59, 59)), "fine febbraio"),
+        noted(expense("10", at(2024, 3, 1, 0, 30)), "inizio marzo"),
+        noted(expense("10", at(2024, 3, 15)), "metà marzo"),
+        noted(expense("10", at(2024, 3, 31, 23, 59, 59)), "fine marzo"),
+        noted(expense("10", at(2024, 4, 1, 0, 0)), "inizio aprile"),
     };
     const Ledger ledger(data);
 

@@ -1,40 +1,26 @@
 #include "core/analysis/MonthlyCategoryTotals.hpp"
 
 #include "support/Dates.hpp"
+#include "support/Movements.hpp"
 
 #include <gtest/gtest.h>
 
 namespace vantello {
 namespace {
 
-using testing::at;
-using testing::rome;
-
-Transaction movement(Instant date, TransactionKind kind, std::string categoryID, Decimal amount,
-                     std::string accountID = "principale") {
-    Transaction made;
-    made.id = Uuid::random();
-    made.kind = kind;
-    made.amount = std::move(amount);
-    made.date = date;
-    made.categoryID = std::move(categoryID);
-    made.accountID = std::move(accountID);
-    return made;
-}
+using namespace testing;
 
 TEST(MonthlyCategoryTotals, MonthsInTheUsersZoneWithGapsAndWithoutTransfers) {
     LedgerData data;
     data.accounts = {Account::main(), Account{"conto-2", "Carta", "creditcard", Decimal{}, std::nullopt}};
-    Transaction transfer = movement(at(2024, 1, 20), TransactionKind::expense, "giroconto", 500);
-    transfer.transferToAccountID = "conto-2";
-    Transaction shared = movement(at(2024, 1, 10), TransactionKind::expense, "spesa", Decimal(1000, -1));
+    Transaction shared = expense("100", at(2024, 1, 10));
     shared.shares = {{Uuid::random(), 60}};
     data.transactions = std::vector{
         // 00:30 on 1 April in Rome is still 31 March in UTC.
-        movement(at(2024, 4, 1, 0, 30), TransactionKind::expense, "spesa", Decimal(1250, -2)),
-        movement(at(2024, 1, 31, 23), TransactionKind::income, "stipendio", 1800),
-        movement(at(2024, 1, 15), TransactionKind::expense, "spesa", Decimal(5, -2), "conto-2"),
-        transfer,
+        expense("12.5", at(2024, 4, 1, 0, 30)),
+        income("1800", at(2024, 1, 31, 23)),
+        expense("0.05", at(2024, 1, 15), "spesa", "conto-2"),
+        transfer("500", at(2024, 1, 20), "principale", "conto-2"),
         shared,
     };
     const Ledger ledger(data);

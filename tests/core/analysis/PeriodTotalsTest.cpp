@@ -1,7 +1,7 @@
 #include "core/analysis/PeriodTotals.hpp"
 
-#include "core/analysis/MovementBuilders.hpp"
 #include "support/Dates.hpp"
+#include "support/Movements.hpp"
 
 #include <gtest/gtest.h>
 

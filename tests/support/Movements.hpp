@@ -1,5 +1,5 @@
 #pragma once
-// Movements and rules for the analysis tests, with only what a test cares about spelled out.
+// Movements and rules for tests, with only what a test cares about spelled out.
 
 #include "core/ledger/Ledger.hpp"
 
@@ -33,6 +33,12 @@ inline Transaction transfer(const char* value, Instant date, std::string from, s
     Transaction made = expense(value, date, std::string(transferCategoryID), std::move(from));
     made.transferToAccountID = std::move(to);
     return made;
+}
+
+// The movement with a description.
+inline Transaction noted(Transaction transaction, std::string note) {
+    transaction.note = std::move(note);
+    return transaction;
 }
 
 inline RecurringRule monthlyRule(TransactionKind kind, const char* value, std::string category, Instant start) {

@@ -1,12 +1,13 @@
 #include "core/base/AtomicFile.hpp"
 
 #include "core/base/Localization.hpp"
+#include "core/base/SystemReason.hpp"
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <random>
-#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,10 +17,8 @@ namespace vantello {
 
 namespace {
 
-std::string reasonText(int systemError) { return std::generic_category().message(systemError); }
-
 FileError fileError(std::string_view italianPattern, const std::filesystem::path& file, int systemError) {
-    return FileError(L10n::tr(italianPattern, {{"file", file.string()}, {"reason", reasonText(systemError)}}),
+    return FileError(L10n::tr(italianPattern, {{"file", file.string()}, {"reason", systemReason(systemError)}}),
                      systemError);
 }
 
@@ -44,15 +43,28 @@ private:
     int fd_;
 };
 
+// The shape of a temporary name, shared by the writer and isTemporaryFileName: "." and the
+// target's name, the marker, then the process id, a counter and 32 random bits in hex.
+constexpr std::string_view temporaryMarker = ".tmp-";
+constexpr std::size_t randomHexDigits = 8;
+
 // Unique within the process (counter) and across processes (random part).
 std::string temporaryName(const std::filesystem::path& file) {
     static std::atomic<unsigned> counter{0};
     thread_local std::mt19937_64 generator{std::random_device{}()};
     char suffix[40];
-    std::snprintf(suffix, sizeof suffix, ".tmp-%d-%u-%08llx", static_cast<int>(::getpid()), counter++,
-                  static_cast<unsigned long long>(generator() & 0xffffffffULL));
-    return "." + file.filename().string() + suffix;
+    std::snprintf(suffix, sizeof suffix, "%d-%u-%0*llx", static_cast<int>(::getpid()), counter++,
+                  static_cast<int>(randomHexDigits), static_cast<unsigned long long>(generator() & 0xffffffffULL));
+    return "." + file.filename().string() + std::string(temporaryMarker) + suffix;
 }
+
+template <typename Predicate>
+bool isRunOf(std::string_view text, Predicate&& predicate) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), predicate);
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isLowerHexDigit(char c) { return isDigit(c) || (c >= 'a' && c <= 'f'); }
 
 // 0 on success, else the errno value.
 int writeAll(int fd, std::string_view bytes) {
@@ -105,12 +117,34 @@ FileError FileError::moving(const std::filesystem::path& file, int systemError) 
     return fileError(L10n::key("Non riesco a spostare «{file}»: {reason}."), file, systemError);
 }
 
+FileError FileError::notRegular(const std::filesystem::path& file) {
+    return FileError(L10n::tr("«{file}» non è un file normale.", {{"file", file.string()}}), 0);
+}
+
+bool isTemporaryFileName(std::string_view name) {
+    const auto marker = name.rfind(temporaryMarker);
+    // A dot and at least one character of the target's name come before the marker.
+    if (marker == std::string_view::npos || marker < 2 || name.front() != '.') return false;
+    const std::string_view suffix = name.substr(marker + temporaryMarker.size());
+    const auto firstDash = suffix.find('-');
+    if (firstDash == std::string_view::npos) return false;
+    const auto secondDash = suffix.find('-', firstDash + 1);
+    if (secondDash == std::string_view::npos) return false;
+    const std::string_view random = suffix.substr(secondDash + 1);
+    return isRunOf(suffix.substr(0, firstDash), isDigit) &&
+           isRunOf(suffix.substr(firstDash + 1, secondDash - firstDash - 1), isDigit) &&
+           random.size() == randomHexDigits && isRunOf(random, isLowerHexDigit);
+}
+
 void writeFileAtomically(const std::filesystem::path& file, std::string_view bytes) {
     const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
 
-    // A file being replaced keeps its permissions.
+    // A file being replaced keeps its permissions. Anything else in its place (a folder, a FIFO)
+    // is the user's and stays.
     struct stat existing {};
-    const bool replacing = ::stat(file.c_str(), &existing) == 0 && S_ISREG(existing.st_mode);
+    const bool replacing = ::stat(file.c_str(), &existing) == 0;
+    if (replacing && S_ISDIR(existing.st_mode)) throw FileError::writing(file, EISDIR);
+    if (replacing && !S_ISREG(existing.st_mode)) throw FileError::notRegular(file);
 
     std::filesystem::path temporary;
     int fd = -1;
@@ -130,13 +164,18 @@ void writeFileAtomically(const std::filesystem::path& file, std::string_view byt
 }
 
 std::string readWholeFile(const std::filesystem::path& file) {
-    const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    // Opening a FIFO waits for a writer, unless it is opened without blocking; the kind of file
+    // is known only once it is open.
+    const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (fd < 0) throw FileError::reading(file, errno);
     Descriptor descriptor(fd);
 
     struct stat status {};
     if (::fstat(fd, &status) != 0) throw FileError::reading(file, errno);
     if (S_ISDIR(status.st_mode)) throw FileError::reading(file, EISDIR);
+    if (!S_ISREG(status.st_mode)) throw FileError::notRegular(file);
+    const int flags = ::fcntl(fd, F_GETFL);
+    if (flags < 0 || ::fcntl(fd, F_SETFL, flags & ~O_NONBLOCK) != 0) throw FileError::reading(file, errno);
 
     std::string content;
     // The size is a hint only: the file may grow or shrink while it is read.

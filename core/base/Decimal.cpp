@@ -406,7 +406,17 @@ Decimal::Decimal(std::int64_t integer) : Decimal(Arithmetic::make(integer, 0)) {
 Decimal::Decimal(std::int64_t coefficient, std::int32_t exponent)
     : Decimal(Arithmetic::make(coefficient, exponent)) {}
 
-std::optional<Decimal> Decimal::fromCanonical(std::string_view text) {
+namespace {
+
+// Canonical text taken apart: the significant digits (no zeros at either end, empty for zero)
+// times ten to `exponent`.
+struct CanonicalDigits {
+    bool negative = false;
+    std::string digits;
+    std::int64_t exponent = 0;
+};
+
+std::optional<CanonicalDigits> splitCanonical(std::string_view text) {
     const auto isDigit = [](char character) { return character >= '0' && character <= '9'; };
     std::size_t position = 0;
     const bool negative = !text.empty() && text.front() == '-';
@@ -440,27 +450,53 @@ std::optional<Decimal> Decimal::fromCanonical(std::string_view text) {
     // Trim zeros on both sides here so a long run of them never reaches GMP.
     const std::size_t first = digits.find_first_not_of('0');
     if (first == std::string::npos) {
-        return Decimal{};
+        return CanonicalDigits{negative, {}, 0};
     }
     const std::size_t last = digits.find_last_not_of('0');
     exponent += static_cast<std::int64_t>(digits.size() - 1 - last);
-    digits = digits.substr(first, last + 1 - first);
-    if (exponent < std::numeric_limits<std::int32_t>::min() ||
-        exponent > std::numeric_limits<std::int32_t>::max()) {
+    return CanonicalDigits{negative, digits.substr(first, last + 1 - first), exponent};
+}
+
+}  // namespace
+
+std::optional<Decimal> Decimal::fromCanonical(std::string_view text) {
+    const auto split = splitCanonical(text);
+    if (!split) {
         return std::nullopt;
     }
-    if (digits.size() < powersOfTen.size()) {
+    if (split->digits.empty()) {
+        return Decimal{};
+    }
+    if (split->exponent < std::numeric_limits<std::int32_t>::min() ||
+        split->exponent > std::numeric_limits<std::int32_t>::max()) {
+        return std::nullopt;
+    }
+    if (split->digits.size() < powersOfTen.size()) {
         std::int64_t coefficient = 0;
-        for (const char digit : digits) {
+        for (const char digit : split->digits) {
             coefficient = coefficient * 10 + (digit - '0');
         }
-        return Arithmetic::make(negative ? -coefficient : coefficient, exponent);
+        return Arithmetic::make(split->negative ? -coefficient : coefficient, split->exponent);
     }
-    mpz_class coefficient(digits, 10);
-    if (negative) {
+    mpz_class coefficient(split->digits, 10);
+    if (split->negative) {
         coefficient = -coefficient;
     }
-    return Arithmetic::make(std::move(coefficient), exponent);
+    return Arithmetic::make(std::move(coefficient), split->exponent);
+}
+
+std::optional<Decimal> Decimal::fromCanonicalAmount(std::string_view text) {
+    // A text this short cannot hold more digits, or digits further out, than an amount may.
+    if (text.size() <= static_cast<std::size_t>(precision)) {
+        return fromCanonical(text);
+    }
+    // Longer ones are measured first: the conversion's cost grows with the digits.
+    const auto split = splitCanonical(text);
+    if (!split || split->digits.size() > static_cast<std::size_t>(precision) ||
+        split->exponent < -amountExponentLimit || split->exponent > amountExponentLimit) {
+        return std::nullopt;
+    }
+    return fromCanonical(text);
 }
 
 std::string Decimal::description() const {

@@ -25,7 +25,11 @@ enum class RoundingMode {
 
 class Decimal {
 public:
-    static constexpr int divisionDigits = 38;
+    // The significant digits money ever needs; quotients are cut to as many.
+    static constexpr int precision = 38;
+    static constexpr int divisionDigits = precision;
+    // How far from the decimal point the last significant digit of an amount may lie.
+    static constexpr int amountExponentLimit = 128;
 
     Decimal() = default;  // zero
     Decimal(std::int64_t integer);  // NOLINT(google-explicit-constructor): integers are exact
@@ -37,6 +41,11 @@ public:
     // Strict canonical text: optional "-", digits, optionally "." and digits ("-12.5", "1250",
     // "0.05", ".5" and "5." are refused). Anything else gives nothing.
     [[nodiscard]] static std::optional<Decimal> fromCanonical(std::string_view text);
+    // The same, limited to what an amount can be: at most `precision` significant digits, the
+    // last of them at most `amountExponentLimit` places from the decimal point on either side.
+    // For amounts read from outside (files, statements, typing): a text of a hundred thousand
+    // digits is refused as quickly as it is scanned.
+    [[nodiscard]] static std::optional<Decimal> fromCanonicalAmount(std::string_view text);
 
     // Canonical description: no exponent, no grouping, no trailing zeros, "-" when negative.
     [[nodiscard]] std::string description() const;

@@ -19,10 +19,20 @@ const std::string& requireString(const Json& json) {
     return json.get_ref<const std::string&>();
 }
 
+// The start of a long text, cut between characters: a damaged file may hold anything in the
+// place of an amount, a hundred thousand digits included.
+std::string shortened(const std::string& text) {
+    constexpr std::size_t shownBytes = 40;
+    if (text.size() <= shownBytes) return text;
+    std::size_t end = shownBytes;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
+    return text.substr(0, end) + "…";
+}
+
 Decimal decodeDecimal(const Json& json) {
     const std::string& text = requireString(json);
-    auto value = Decimal::fromCanonical(text);
-    if (!value) throw DecodingError(L10n::tr("Importo non valido: {text}", {{"text", text}}));
+    auto value = Decimal::fromCanonicalAmount(text);
+    if (!value) throw DecodingError(L10n::tr("Importo non valido: {text}", {{"text", shortened(text)}}));
     return *value;
 }
 

@@ -51,7 +51,7 @@ void decodeBudgets(const Json& document, std::string_view key, LedgerData& data)
     const auto texts = JsonCoding::valueOr<std::map<std::string, std::string>>(document, key, {});
     std::map<std::string, Decimal> budgets;
     for (const auto& [categoryID, text] : texts) {
-        if (auto amount = Decimal::fromCanonical(text)) budgets.emplace_hint(budgets.end(), categoryID, *amount);
+        if (auto amount = Decimal::fromCanonicalAmount(text)) budgets.emplace_hint(budgets.end(), categoryID, *amount);
     }
     data.budgets = std::move(budgets);
 }

@@ -7,6 +7,7 @@
 #include "core/files/DataFolder.hpp"
 #include "core/files/LedgerCollections.hpp"
 #include "core/files/LedgerFileReader.hpp"
+#include "core/files/RepeatedIDs.hpp"
 
 #include <cerrno>
 #include <cmath>
@@ -109,6 +110,7 @@ LedgerStore::Contents LedgerStore::decode(std::string_view text) {
     }
     // Read apart from the document, which then holds an empty array in their place.
     if (file.transactions) contents.data.transactions = std::move(*file.transactions);
+    refuseRepeatedIDs(contents.data);
     return contents;
 }
 

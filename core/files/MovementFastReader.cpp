@@ -46,7 +46,7 @@ bool readParsed(dom::element value, Value& out, Parse&& parse) {
 }
 
 bool readUuid(dom::element value, Uuid& out) { return readParsed(value, out, Uuid::parse); }
-bool readDecimal(dom::element value, Decimal& out) { return readParsed(value, out, Decimal::fromCanonical); }
+bool readDecimal(dom::element value, Decimal& out) { return readParsed(value, out, Decimal::fromCanonicalAmount); }
 bool readInstant(dom::element value, Instant& out) { return readParsed(value, out, Iso8601::parse); }
 bool readKind(dom::element value, TransactionKind& out) {
     return readParsed(value, out, transactionKindFromFileText);

@@ -170,7 +170,7 @@ std::optional<Decimal> readCleaned(std::string_view cleaned) {
         canonical.push_back('.');
         canonical.append(fraction);
     }
-    return Decimal::fromCanonical(canonical);
+    return Decimal::fromCanonicalAmount(canonical);
 }
 
 }  // namespace

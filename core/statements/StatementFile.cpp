@@ -1,5 +1,6 @@
 #include "core/statements/StatementFile.hpp"
 
+#include "core/base/AtomicFile.hpp"
 #include "core/base/Localization.hpp"
 
 #include <unicode/ucnv.h>
@@ -8,11 +9,9 @@
 
 #include <climits>
 #include <cstdint>
-#include <fstream>
 #include <memory>
 #include <optional>
 #include <string_view>
-#include <system_error>
 
 namespace vantello {
 namespace {
@@ -20,21 +19,6 @@ namespace {
 std::string fileNameOf(const std::filesystem::path& path) {
     const auto name = path.filename();
     return (name.empty() ? path.parent_path().filename() : name).string();
-}
-
-std::optional<std::string> readBytes(const std::filesystem::path& path) {
-    std::error_code error;
-    if (std::filesystem::is_directory(path, error)) return std::nullopt;
-    std::ifstream file(path, std::ios::binary);
-    if (!file) return std::nullopt;
-    std::string bytes;
-    char buffer[1 << 16];
-    while (file.read(buffer, sizeof buffer) || file.gcount() > 0) {
-        bytes.append(buffer, static_cast<std::size_t>(file.gcount()));
-        if (file.eof()) break;
-    }
-    if (file.bad()) return std::nullopt;
-    return bytes;
 }
 
 bool isValidUtf8(std::string_view bytes) {
@@ -148,12 +132,24 @@ void dropTrailingPadding(std::string& text) {
 }  // namespace
 
 StatementFileError::StatementFileError(const std::filesystem::path& path)
-    : UserError(L10n::tr("Non riesco a leggere «{file}»…", {{"file", fileNameOf(path)}})) {}
+    : StatementFileError(L10n::key("Non riesco a leggere «{file}»…"), path) {}
+
+StatementFileError::StatementFileError(const std::filesystem::path& path, const FileError& cause)
+    : StatementFileError(cause.isNotRegular() ? L10n::key("«{file}» non è un file normale.")
+                                              : L10n::key("Non riesco a leggere «{file}»…"),
+                         path) {}
+
+StatementFileError::StatementFileError(std::string_view italianPattern, const std::filesystem::path& path)
+    : UserError(L10n::tr(italianPattern, {{"file", fileNameOf(path)}})) {}
 
 std::string readStatementText(const std::filesystem::path& path) {
-    const auto bytes = readBytes(path);
-    if (!bytes) throw StatementFileError(path);
-    auto text = utf8Text(*bytes);
+    std::string bytes;
+    try {
+        bytes = readWholeFile(path);
+    } catch (const FileError& error) {
+        throw StatementFileError(path, error);
+    }
+    auto text = utf8Text(bytes);
     if (!text) throw StatementFileError(path);
     dropTrailingPadding(*text);
     return std::move(*text);

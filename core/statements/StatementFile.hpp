@@ -7,13 +7,21 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace vantello {
+
+class FileError;
 
 // A statement file that cannot be read; the message names the file, never its folder.
 class StatementFileError : public UserError {
 public:
     explicit StatementFileError(const std::filesystem::path& path);
+    // Says so when the path is a FIFO, a device or a socket rather than a file.
+    StatementFileError(const std::filesystem::path& path, const FileError& cause);
+
+private:
+    StatementFileError(std::string_view italianPattern, const std::filesystem::path& path);
 };
 
 // The file's text in UTF-8 without a byte-order mark. Padding after the last line (NUL bytes,

@@ -85,8 +85,31 @@ TEST_F(AtomicFile, ReadingAMissingFileNamesItAndKeepsTheReason) {
         FAIL();
     } catch (const FileError& error) {
         EXPECT_EQ(error.systemError(), ENOENT);
-        EXPECT_EQ(error.message(), "Non riesco a leggere «" + file.string() + "»: No such file or directory.");
+        EXPECT_EQ(error.message(), "Non riesco a leggere «" + file.string() + "»: file o cartella inesistente.");
     }
+    try {
+        static_cast<void>(readWholeFile(folder));
+        FAIL();
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.message(), "Non riesco a leggere «" + folder.string() + "»: è una cartella.");
+    }
+}
+
+// Opening a FIFO for reading would wait for a writer that never comes, and renaming over it
+// would throw away what the user put there.
+TEST_F(AtomicFile, FifoIsNeitherReadNorReplaced) {
+    const auto fifo = folder / "movimenti.json";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    try {
+        static_cast<void>(readWholeFile(fifo));
+        FAIL() << "a FIFO was read";
+    } catch (const FileError& error) {
+        EXPECT_TRUE(error.isNotRegular());
+        EXPECT_EQ(error.message(), "«" + fifo.string() + "» non è un file normale.");
+    }
+    EXPECT_THROW(writeFileAtomically(fifo, "{}"), FileError);
+    EXPECT_TRUE(fs::is_fifo(fifo));
+    EXPECT_EQ(entries(), 1u);
 }
 
 }  // namespace

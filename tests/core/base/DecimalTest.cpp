@@ -118,6 +118,18 @@ TEST(DecimalText, RefusesAnythingNotCanonical) {
     }
 }
 
+TEST(DecimalText, AmountsStayWithinThePrecisionOfMoney) {
+    const std::string digits38(38, '9');
+    for (const std::string& text : {digits38, "-0." + digits38, "00" + digits38 + "000", "1" + std::string(128, '0'),
+                                    "0." + std::string(127, '0') + "1", "0." + std::string(100'000, '0')}) {
+        EXPECT_EQ(Decimal::fromCanonicalAmount(text), Decimal::fromCanonical(text)) << text;
+    }
+    for (const std::string& text : {digits38 + "1", "1" + digits38 + ".5", "1" + std::string(129, '0'),
+                                    "0." + std::string(128, '0') + "1", std::string(100'000, '7'), std::string("12,5")}) {
+        EXPECT_FALSE(Decimal::fromCanonicalAmount(text).has_value()) << text.substr(0, 50);
+    }
+}
+
 TEST(DecimalEquality, ByValueWhateverTheForm) {
     const Decimal viaGmp = (Decimal(int64Max) + dec("12.5")) - Decimal(int64Max);
     const Decimal viaLongText = dec("12.500000000000000000000000000000");

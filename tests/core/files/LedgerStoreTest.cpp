@@ -11,6 +11,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <string>
+#include <utility>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -113,6 +117,7 @@ TEST_F(LedgerStoreFile, FewMovementsBeforeALongListReadBack) {
     // The list after the movements is laid out like them and makes up most of the file.
     LedgerData data = bench::LedgerGenerator(13).generate(2);
     data.unemploymentPeriods.assign(6'000, data.unemploymentPeriods.front());
+    for (auto& period : data.unemploymentPeriods) period.id = Uuid::random();
     const LedgerStore store(folder / "movimenti.json");
     store.save(data);
     EXPECT_EQ(store.load(), data);
@@ -140,6 +145,62 @@ TEST_F(LedgerStoreFile, LargeFileReportsTheFirstFaultInFileOrder) {
     broken.insert(amounts[2'950] - 11, "!");
     broken.insert(amounts[10], "x");
     EXPECT_EQ(decodingMessage(broken).rfind("Il file non è un JSON valido (riga ", 0), 0u) << decodingMessage(broken);
+}
+
+// The store's own layout is read movement by movement, any other as one document: both give
+// the same answer.
+TEST_F(LedgerStoreFile, RepeatedIdIsDamageOnEitherReadingPath) {
+    const auto refusal = [&](const LedgerData& data) {
+        const std::string saved = LedgerStore::encode(data);
+        const std::string laidOut = decodingMessage(saved);
+        EXPECT_EQ(decodingMessage(Json::parse(saved).dump()), laidOut);
+        return laidOut;
+    };
+    const LedgerData original = bench::LedgerGenerator(14).generate(3'000);
+
+    LedgerData movements = original;
+    const Uuid repeated = movements.transactions[2'900].id;
+    movements.transactions.update(10, [&](Transaction& movement) { movement.id = repeated; });
+    EXPECT_EQ(refusal(movements),
+              "Dati non validi: l'identificativo " + repeated.text() + " compare più volte in «transactions».");
+
+    LedgerData accounts = original;
+    accounts.accounts.push_back(accounts.accounts.front());
+    accounts.accounts.back().name = "Copia";
+    EXPECT_EQ(refusal(accounts), "Dati non validi: l'identificativo " + accounts.accounts.front().id +
+                                     " compare più volte in «accounts».");
+}
+
+// Money never has a hundred thousand digits; the message quotes only the start of the text.
+TEST_F(LedgerStoreFile, AmountBeyondThePrecisionOfMoneyIsDamage) {
+    const LedgerStore store(folder / "movimenti.json");
+    store.save(bench::LedgerGenerator(15).generate(50));
+    const std::string saved = readWholeFile(store.file());
+    // A movement's amount (read by the fast reader, then the ordinary one) and a loan's.
+    const auto movements = saved.find("\"transactions\": [");
+    for (const auto& [key, from] : {std::pair<std::string, std::size_t>{"\"amount\": \"", movements},
+                                    {"\"principal\": \"", 0}}) {
+        const auto value = saved.find(key, from);
+        ASSERT_NE(value, std::string::npos) << key;
+        std::string damaged = saved;
+        damaged.insert(value + key.size(), std::string(100'000, '9'));
+        const std::string expected = "Importo non valido: " + std::string(40, '9') + "…";
+        EXPECT_EQ(decodingMessage(damaged), expected) << key;
+        EXPECT_EQ(decodingMessage(Json::parse(damaged).dump()), expected) << key;
+    }
+}
+
+TEST_F(LedgerStoreFile, FifoInPlaceOfTheFileIsRefusedAtOnce) {
+    const LedgerStore store(folder / "movimenti.json");
+    ASSERT_EQ(::mkfifo(store.file().c_str(), 0600), 0);
+    try {
+        static_cast<void>(store.load());
+        FAIL() << "a FIFO was read";
+    } catch (const FileError& error) {
+        EXPECT_TRUE(error.isNotRegular());
+    }
+    EXPECT_THROW(store.save(LedgerData{}), FileError);
+    EXPECT_TRUE(fs::is_fifo(store.file()));
 }
 
 TEST_F(LedgerStoreFile, EmptyLedgerWritesEveryKey) {

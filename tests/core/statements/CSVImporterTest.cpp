@@ -57,6 +57,12 @@ TEST(CSVImporter, ProblemsComeInOrderAndQuoteTheCell) {
     EXPECT_EQ(problemOf({"05/03/2024"}), "Importo assente o uguale a zero.");
 }
 
+TEST(CSVImporter, AmountBeyondThePrecisionOfMoneyIsUnreadable) {
+    EXPECT_TRUE(convert({"05/03/2024", "-" + std::string(38, '9')}).transaction.has_value());
+    const std::string huge(100'000, '1');
+    EXPECT_EQ(problemOf({"05/03/2024", "-" + huge}), "Importo non leggibile: «-" + huge + "»");
+}
+
 TEST(CSVImporter, ProblemsAreLocalised) {
     L10n::install([](std::string_view key) {
         return key == "Data non leggibile: «{text}»" ? std::string("Unreadable date: «{text}»") : std::string(key);

@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <sys/stat.h>
+
 namespace vantello {
 namespace {
 
@@ -63,6 +65,15 @@ TEST_F(StatementFile, UnreadableFileIsNamedWithoutItsFolder) {
         EXPECT_STREQ(error.what(), "Non riesco a leggere «mancante.csv»…");
     }
     EXPECT_THROW((void)readStatementText(folder), StatementFileError);
+    // A FIFO would keep the import waiting for a writer.
+    const auto fifo = folder / "estratto.csv";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    try {
+        (void)readStatementText(fifo);
+        FAIL() << "a FIFO was read";
+    } catch (const StatementFileError& error) {
+        EXPECT_STREQ(error.what(), "«estratto.csv» non è un file normale.");
+    }
     EXPECT_EQ(statementWithoutRowsMessage(folder / "vuoto.csv"), "«vuoto.csv» non contiene righe da importare.");
 }
 

@@ -1,14 +1,9 @@
 #include "cli/Arguments.hpp"
 
 #include "core/files/DataFolder.hpp"
+#include "core/files/ProfileStore.hpp"
 
 namespace vantello::cli {
-
-namespace {
-
-constexpr std::string_view dataDirOption = "--data-dir";
-
-}  // namespace
 
 Arguments Arguments::parse(const std::vector<std::string>& arguments, const ArgumentRules& rules) {
     Arguments parsed;
@@ -27,7 +22,7 @@ Arguments Arguments::parse(const std::vector<std::string>& arguments, const Argu
         const auto equals = argument.find('=');
         const std::string name = argument.substr(0, equals);
         const bool repeated = rules.repeatedOptions.contains(name);
-        const bool takesValue = name == dataDirOption || rules.valueOptions.contains(name) || repeated;
+        const bool takesValue = name == dataDirOption || name == profileOption || rules.valueOptions.contains(name) || repeated;
         if (!takesValue && !rules.flags.contains(name)) throw ArgumentError("Opzione sconosciuta: " + name);
 
         if (!takesValue) {
@@ -73,9 +68,20 @@ std::vector<std::string> Arguments::values(std::string_view option) const {
     return found->second;
 }
 
-std::filesystem::path Arguments::dataFolder() const {
+std::filesystem::path Arguments::rootFolder() const {
     if (auto chosen = value(dataDirOption)) return *chosen;
     return vantello::dataFolder();
+}
+
+std::optional<ManagedProfile> Arguments::profile() const {
+    const auto chosen = value(profileOption);
+    if (!chosen) return std::nullopt;
+    return ProfileStore(rootFolder()).find(*chosen);
+}
+
+std::filesystem::path Arguments::dataFolder() const {
+    if (const auto chosen = profile()) return ProfileStore(rootFolder()).dataFolder(chosen->id);
+    return rootFolder();
 }
 
 }  // namespace vantello::cli

@@ -1,8 +1,10 @@
 #pragma once
-// The options every subcommand reads the same way: "--data-dir DIR" (or "--data-dir=DIR"),
-// flags such as "--json", options with a value, and positional arguments; "--" ends the options.
+// The options every subcommand reads the same way: "--data-dir DIR" (or "--data-dir=DIR") and
+// "--profile ID|NAME", flags such as "--json", options with a value, and positional arguments;
+// "--" ends the options.
 
 #include "core/base/UserError.hpp"
+#include "core/files/ManagedProfile.hpp"
 
 #include <filesystem>
 #include <map>
@@ -20,7 +22,11 @@ public:
     using UserError::UserError;
 };
 
-// What a subcommand accepts besides "--data-dir", which every subcommand knows.
+// The options every subcommand knows, which may also come before the subcommand's name.
+inline constexpr std::string_view dataDirOption = "--data-dir";
+inline constexpr std::string_view profileOption = "--profile";
+
+// What a subcommand accepts besides the global options.
 struct ArgumentRules {
     std::set<std::string> flags;          // "--json"
     std::set<std::string> valueOptions;   // "--from", followed by a value
@@ -41,7 +47,12 @@ public:
     [[nodiscard]] std::vector<std::string> values(std::string_view option) const;
     [[nodiscard]] const std::vector<std::string>& positional() const { return positional_; }
 
-    // The folder given with --data-dir, else the application's data folder.
+    // The folder given with --data-dir, else the application's data folder: where the user's
+    // own data, the profile list and the backups live.
+    [[nodiscard]] std::filesystem::path rootFolder() const;
+    // The managed profile chosen with --profile (ProfileError notFound for an unknown one).
+    [[nodiscard]] std::optional<ManagedProfile> profile() const;
+    // The data folder to work on: the chosen profile's, else the root folder.
     [[nodiscard]] std::filesystem::path dataFolder() const;
 
 private:

@@ -1,19 +1,29 @@
 #include "cli/Commands.hpp"
 
 #include "cli/AlertsCommand.hpp"
+#include "cli/Arguments.hpp"
+#include "cli/AttachCommand.hpp"
+#include "cli/BackupCommand.hpp"
+#include "cli/BackupsCommand.hpp"
 #include "cli/CheckCommand.hpp"
 #include "cli/ExportCommand.hpp"
+#include "cli/DetachCommand.hpp"
 #include "cli/ImportCommand.hpp"
+#include "cli/ProfilesCommand.hpp"
 #include "cli/RatesCommand.hpp"
 #include "cli/ReportCommand.hpp"
+#include "cli/RestoreCommand.hpp"
 #include "cli/SearchCommand.hpp"
+
+#include <cstddef>
+#include <string>
 
 namespace vantello::cli {
 
 namespace {
 
 constexpr const char* usage =
-    "Uso: vantello-cli [--help] [--version] <comando> [opzioni]\n"
+    "Uso: vantello-cli [--help] [--version] [--data-dir CARTELLA] [--profile ID|NOME] <comando> [opzioni]\n"
     "\n"
     "Lavora sulla stessa cartella dei dati dell'applicazione Vantello.\n"
     "\n"
@@ -25,31 +35,72 @@ constexpr const char* usage =
     "  search       cerca nei movimenti per testo e condizioni; usa o salva le ricerche salvate\n"
     "  alerts       mostra gli avvisi di oggi o ne ignora uno per sempre\n"
     "  report       riepilogo di un mese: totali, categorie, budget, stima a fine mese, avvisi\n"
+    "  attach       allega un file a un movimento\n"
+    "  detach       toglie un allegato da un movimento ed elimina il file\n"
+    "  backup       fa un backup di movimenti e allegati\n"
+    "  backups      elenca i backup, dal più recente\n"
+    "  restore      ripristina un backup, dopo averne fatto uno della situazione attuale\n"
+    "  profiles     elenca, aggiunge, rinomina ed elimina le gestioni (persone e famiglie)\n"
     "\n"
     "Opzioni:\n"
-    "  --help       mostra questo aiuto\n"
-    "  --version    mostra la versione\n";
+    "  --help               mostra questo aiuto\n"
+    "  --version            mostra la versione\n"
+    "  --data-dir CARTELLA  usa questa cartella dei dati invece di quella dell'applicazione\n"
+    "  --profile ID|NOME    lavora sui dati di una gestione invece che sui tuoi\n"
+    "Le ultime due valgono con ogni comando, prima o dopo il suo nome.\n";
+
+// "--data-dir" and "--profile" given before the command's name, with their values: they go to
+// the command in front of its own arguments. Returns the index of the command's name.
+std::size_t takeLeadingGlobalOptions(const std::vector<std::string>& arguments, std::vector<std::string>& taken) {
+    std::size_t index = 0;
+    while (index < arguments.size()) {
+        const std::string& argument = arguments[index];
+        const bool alone = argument == dataDirOption || argument == profileOption;
+        const bool joined = argument.starts_with(std::string(dataDirOption) + "=") ||
+                            argument.starts_with(std::string(profileOption) + "=");
+        if (joined) {
+            taken.push_back(argument);
+            index += 1;
+        } else if (alone && index + 1 < arguments.size()) {
+            taken.insert(taken.end(), {argument, arguments[index + 1]});
+            index += 2;
+        } else {
+            break;
+        }
+    }
+    return index;
+}
 
 }  // namespace
 
 int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
-    if (arguments.empty() || arguments.front() == "--help" || arguments.front() == "-h") {
-        (arguments.empty() ? err : out) << usage;
-        return arguments.empty() ? 2 : 0;
+    std::vector<std::string> rest;
+    const std::size_t commandIndex = takeLeadingGlobalOptions(arguments, rest);
+    if (commandIndex == arguments.size() || arguments[commandIndex] == "--help" || arguments[commandIndex] == "-h") {
+        const bool asked = commandIndex < arguments.size();
+        (asked ? out : err) << usage;
+        return asked ? 0 : 2;
     }
-    if (arguments.front() == "--version") {
+    const std::string& command = arguments[commandIndex];
+    if (command == "--version") {
         out << "vantello-cli " << VANTELLO_VERSION << '\n';
         return 0;
     }
-    const std::vector<std::string> rest(arguments.begin() + 1, arguments.end());
-    if (arguments.front() == "check") return runCheck(rest, out, err);
-    if (arguments.front() == "import") return runImport(rest, out, err);
-    if (arguments.front() == "export") return runExport(rest, out, err);
-    if (arguments.front() == "rates") return runRates(rest, out, err);
-    if (arguments.front() == "search") return runSearch(rest, out, err);
-    if (arguments.front() == "alerts") return runAlerts(rest, out, err);
-    if (arguments.front() == "report") return runReport(rest, out, err);
-    err << "Comando sconosciuto: " << arguments.front() << "\n\n" << usage;
+    rest.insert(rest.end(), arguments.begin() + static_cast<std::ptrdiff_t>(commandIndex) + 1, arguments.end());
+    if (command == "check") return runCheck(rest, out, err);
+    if (command == "import") return runImport(rest, out, err);
+    if (command == "export") return runExport(rest, out, err);
+    if (command == "rates") return runRates(rest, out, err);
+    if (command == "search") return runSearch(rest, out, err);
+    if (command == "alerts") return runAlerts(rest, out, err);
+    if (command == "report") return runReport(rest, out, err);
+    if (command == "attach") return runAttach(rest, out, err);
+    if (command == "detach") return runDetach(rest, out, err);
+    if (command == "backup") return runBackup(rest, out, err);
+    if (command == "backups") return runBackups(rest, out, err);
+    if (command == "restore") return runRestore(rest, out, err);
+    if (command == "profiles") return runProfiles(rest, out, err);
+    err << "Comando sconosciuto: " << command << "\n\n" << usage;
     return 2;
 }
 

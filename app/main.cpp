@@ -1,5 +1,6 @@
 // The desktop application's entry: set up the interface language and open the main window.
 
+#include "app/model/OrderlyQuit.hpp"
 #include "app/screens/MainWindow.hpp"
 #include "app/settings/Language.hpp"
 
@@ -29,6 +30,9 @@ int main(int argc, char* argv[]) {
     options.process(application);
 
     vantello::app::installInterfaceLanguage(application);
+    // SIGTERM, SIGINT, SIGHUP and the session's end quit through the event loop, so that the
+    // ledger writers are flushed before the process ends.
+    vantello::app::OrderlyQuit orderlyQuit(application);
     vantello::app::MainWindow window;
     window.show();
     return QApplication::exec();

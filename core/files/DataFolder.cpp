@@ -2,6 +2,8 @@
 
 #include "core/base/AtomicFile.hpp"
 #include "core/base/Localization.hpp"
+#include "core/files/InterruptedWrites.hpp"
+#include "core/files/RestoreSwap.hpp"
 
 #include <cerrno>
 #include <cstdlib>
@@ -66,6 +68,15 @@ DataFolderLock::DataFolderLock(const std::filesystem::path& folder) {
         fd_ = -1;
         if (failure == EWOULDBLOCK) throw DataFolderError(DataFolderError::Code::locked);
         throw FileError::writing(file, failure);
+    }
+    // Whoever wrote them is gone: every writer holds the lock while it writes.
+    try {
+        removeStaleTemporaryFiles(folder);
+        finishInterruptedRestore(folder);
+    } catch (...) {
+        ::close(fd_);
+        fd_ = -1;
+        throw;
     }
 }
 

@@ -474,5 +474,105 @@
             <source>Questo mese hai già speso {speso} in {categoria}, il {percentuale} in più della tua media mensile ({media}).</source>
             <translation>This month you have already spent {speso} on {categoria}, {percentuale} more than your monthly average ({media}).</translation>
         </message>
+        <message>
+            <source>«{file}» non è un file normale.</source>
+            <translation>“{file}” is not a regular file.</translation>
+        </message>
+        <message>
+            <source>permesso negato</source>
+            <translation>permission denied</translation>
+        </message>
+        <message>
+            <source>file o cartella inesistente</source>
+            <translation>no such file or folder</translation>
+        </message>
+        <message>
+            <source>è una cartella</source>
+            <translation>it is a folder</translation>
+        </message>
+        <message>
+            <source>una parte del percorso non è una cartella</source>
+            <translation>part of the path is not a folder</translation>
+        </message>
+        <message>
+            <source>disco pieno</source>
+            <translation>the disk is full</translation>
+        </message>
+        <message>
+            <source>file system di sola lettura</source>
+            <translation>read-only file system</translation>
+        </message>
+        <message>
+            <source>esiste già</source>
+            <translation>it already exists</translation>
+        </message>
+        <message>
+            <source>nome troppo lungo</source>
+            <translation>the name is too long</translation>
+        </message>
+        <message>
+            <source>troppi file aperti</source>
+            <translation>too many open files</translation>
+        </message>
+        <message>
+            <source>Dati non validi: l'identificativo {id} compare più volte in «{key}».</source>
+            <translation>Invalid data: the identifier {id} appears more than once in “{key}”.</translation>
+        </message>
+        <message>
+            <source>«{name}» non è un file: le cartelle e i pacchetti non si possono allegare.</source>
+            <translation>“{name}” is not a file: folders and packages cannot be attached.</translation>
+        </message>
+        <message>
+            <source>«{name}» supera i {limit} MB.</source>
+            <translation>“{name}” is larger than {limit} MB.</translation>
+        </message>
+        <message>
+            <source>Questo backup non esiste più.</source>
+            <translation>This backup no longer exists.</translation>
+        </message>
+        <message>
+            <source>Questo backup è di un'altra gestione.</source>
+            <translation>This backup belongs to another managed profile.</translation>
+        </message>
+        <message>
+            <source>Non riesco a eliminare «{file}»: {reason}.</source>
+            <translation>Cannot delete “{file}”: {reason}.</translation>
+        </message>
+        <message>
+            <source>Famiglia {cognome}</source>
+            <translation>{cognome} family</translation>
+        </message>
+        <message>
+            <source>Tipo di gestione sconosciuto: {text}</source>
+            <translation>Unknown profile kind: {text}</translation>
+        </message>
+        <message>
+            <source>Scrivi il nome della persona.</source>
+            <translation>Enter the person's first name.</translation>
+        </message>
+        <message>
+            <source>Scrivi il cognome.</source>
+            <translation>Enter the surname.</translation>
+        </message>
+        <message>
+            <source>Nome e cognome possono avere al massimo 60 caratteri ciascuno.</source>
+            <translation>First name and surname can have at most 60 characters each.</translation>
+        </message>
+        <message>
+            <source>Esiste già una gestione con questo nome.</source>
+            <translation>A managed profile with this name already exists.</translation>
+        </message>
+        <message>
+            <source>Questa gestione non esiste più.</source>
+            <translation>This managed profile no longer exists.</translation>
+        </message>
+        <message>
+            <source>L'allegato non esiste più.</source>
+            <translation>The attachment no longer exists.</translation>
+        </message>
+        <message>
+            <source>Non riesco a salvare i movimenti: {reason}</source>
+            <translation>Cannot save the transactions: {reason}</translation>
+        </message>
     </context>
 </TS>

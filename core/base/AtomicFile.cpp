@@ -1,5 +1,6 @@
 #include "core/base/AtomicFile.hpp"
 
+#include "core/base/FileDescriptor.hpp"
 #include "core/base/Localization.hpp"
 #include "core/base/SystemReason.hpp"
 
@@ -21,27 +22,6 @@ FileError fileError(std::string_view italianPattern, const std::filesystem::path
     return FileError(L10n::tr(italianPattern, {{"file", file.string()}, {"reason", systemReason(systemError)}}),
                      systemError);
 }
-
-// Closes on every path out, so that an exception never leaks a descriptor.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (fd_ >= 0) ::close(fd_);
-    }
-    [[nodiscard]] int get() const { return fd_; }
-    // Closing can report a delayed write error (NFS), so the writer checks it.
-    int close() {
-        const int result = ::close(fd_);
-        fd_ = -1;
-        return result;
-    }
-
-private:
-    int fd_;
-};
 
 // The shape of a temporary name, shared by the writer and isTemporaryFileName: "." and the
 // target's name, the marker, then the process id, a counter and 32 random bits in hex.
@@ -84,7 +64,7 @@ int writeAll(int fd, std::string_view bytes) {
 
 // Fills the temporary file, flushes it to the disk and renames it over the target; 0 on
 // success, else the errno value of the step that failed.
-int fillAndReplace(Descriptor& descriptor, const std::filesystem::path& temporary,
+int fillAndReplace(FileDescriptor& descriptor, const std::filesystem::path& temporary,
                    const std::filesystem::path& file, std::string_view bytes, const struct stat* replaced) {
     if (replaced && ::fchmod(descriptor.get(), replaced->st_mode & 07777) != 0) return errno;
     if (const int failure = writeAll(descriptor.get(), bytes)) return failure;
@@ -155,7 +135,7 @@ void writeFileAtomically(const std::filesystem::path& file, std::string_view byt
     }
     if (fd < 0) throw FileError::writing(file, errno);
 
-    Descriptor descriptor(fd);
+    FileDescriptor descriptor(fd);
     if (const int failure = fillAndReplace(descriptor, temporary, file, bytes, replacing ? &existing : nullptr)) {
         ::unlink(temporary.c_str());
         throw FileError::writing(file, failure);
@@ -168,7 +148,7 @@ std::string readWholeFile(const std::filesystem::path& file) {
     // is known only once it is open.
     const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (fd < 0) throw FileError::reading(file, errno);
-    Descriptor descriptor(fd);
+    FileDescriptor descriptor(fd);
 
     struct stat status {};
     if (::fstat(fd, &status) != 0) throw FileError::reading(file, errno);

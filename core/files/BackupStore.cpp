@@ -109,13 +109,27 @@ BackupError::BackupError(Code code) : CodedError(code, errorMessage(code)) {}
 
 BackupStore BackupStore::inDataFolder(const fs::path& root) { return BackupStore{root / folderName}; }
 
+// A backup cut short (the process killed while copying) leaves its hidden folder. One that has
+// not changed for a day is no backup still being made, by this process or another.
+void BackupStore::removeAbandonedPartialBackups() const {
+    std::error_code error;
+    const auto dayAgo = fs::file_time_type::clock::now() - std::chrono::hours(24);
+    for (const auto& entry : fs::directory_iterator(folder, error)) {
+        const std::string name = entry.path().filename().string();
+        if (name.rfind(partialPrefix, 0) != 0 || !entry.is_directory(error)) continue;
+        const auto modified = entry.last_write_time(error);
+        if (!error && modified < dayAgo) fs::remove_all(entry.path(), error);
+    }
+}
+
 BackupInfo BackupStore::copyIntoNewBackup(const fs::path& dataFolder, const std::optional<BackupOwner>& owner,
                                           Instant now, const Calendar& calendar) const {
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) throw FileError::writing(folder, error.value());
 
-    const fs::path partial = folder / ("." + std::string(namePrefix) + Uuid::random().text());
+    removeAbandonedPartialBackups();
+    const fs::path partial = folder / (std::string(partialPrefix) + Uuid::random().text());
     if (::mkdir(partial.c_str(), 0755) != 0) throw FileError::writing(partial, errno);
     try {
         const fs::path ledger = dataFolder / LedgerStore::fileName;

@@ -96,6 +96,10 @@ public:
     bool operator==(const BackupStore&) const = default;
 
 private:
+    // A backup being made is copied under this hidden name, then renamed into place.
+    static constexpr std::string_view partialPrefix = ".Vantello ";
+
+    void removeAbandonedPartialBackups() const;
     BackupInfo copyIntoNewBackup(const std::filesystem::path& dataFolder, const std::optional<BackupOwner>& owner,
                                  Instant now, const Calendar& calendar) const;
 

@@ -1,5 +1,6 @@
 #include "core/files/FileOperations.hpp"
 
+#include "core/base/FileDescriptor.hpp"
 #include "core/base/Localization.hpp"
 #include "core/base/SystemReason.hpp"
 
@@ -17,25 +18,6 @@ namespace vantello::FileOperations {
 namespace {
 
 namespace fs = std::filesystem;
-
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : fd_(fd) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (fd_ >= 0) ::close(fd_);
-    }
-    [[nodiscard]] int get() const { return fd_; }
-    int close() {
-        const int result = ::close(fd_);
-        fd_ = -1;
-        return result;
-    }
-
-private:
-    int fd_;
-};
 
 // 0 when every byte of `from` reached `to` and the disk, else the errno value; `readFailed`
 // tells whose fault it was.
@@ -74,7 +56,7 @@ FileError removingError(const fs::path& item, int systemError) {
 
 void copyFile(const fs::path& from, const fs::path& to) {
     // Non-blocking, so that a named pipe cannot hang the copy before it is refused.
-    Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    FileDescriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (source.get() < 0) throw FileError::reading(from, errno);
     struct stat status {};
     if (::fstat(source.get(), &status) != 0) throw FileError::reading(from, errno);
@@ -82,7 +64,7 @@ void copyFile(const fs::path& from, const fs::path& to) {
     if (!S_ISREG(status.st_mode)) throw FileError::notRegular(from);
     ::fcntl(source.get(), F_SETFL, O_RDONLY);
 
-    Descriptor target(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, status.st_mode & 0777));
+    FileDescriptor target(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, status.st_mode & 0777));
     if (target.get() < 0) throw FileError::writing(to, errno);
     bool readFailed = false;
     int failure = pump(source.get(), target.get(), readFailed);

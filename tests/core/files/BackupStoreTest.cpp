@@ -69,9 +69,18 @@ TEST_F(BackupStoreTest, KeepsTheNewestTenAndLeavesOtherFoldersAlone) {
     EXPECT_TRUE(fs::exists(store.folder / "Vantello 2025-13-01 10.00.00"));
     EXPECT_EQ(snapshot(backups.front().folder), snapshot(data));
 
+    // A backup cut short a day ago is cleared by the next one; one being made now is not.
+    const fs::path abandoned = store.folder / ".Vantello ABANDONED";
+    const fs::path underWay = store.folder / ".Vantello UNDER-WAY";
+    fs::create_directories(abandoned);
+    fs::create_directories(underWay);
+    fs::last_write_time(abandoned, fs::file_time_type::clock::now() - std::chrono::hours(25));
+
     // A profile's backups neither count against nor prune the user's own.
     (void)store.makeBackup(data, anna, 1, at(2025, 3, 12, 10), rome());
     EXPECT_EQ(store.list(rome()).size(), 11u);
+    EXPECT_FALSE(fs::exists(abandoned));
+    EXPECT_TRUE(fs::exists(underWay));
 }
 
 TEST_F(BackupStoreTest, NamesTheOwnerAndNeverCollides) {

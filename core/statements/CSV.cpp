@@ -3,6 +3,7 @@
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -109,6 +110,17 @@ private:
     std::uint8_t separator_ = ',';
 };
 
+bool isLineBreakAt(std::string_view text, std::size_t position) {
+    if (position >= text.size()) return false;
+    if (byteAt(text, position) < 0x80) return asciiLineBreakLength(text, position) > 0;
+    return isOtherLineBreak(decodeAt(text, position).codePoint);
+}
+
+// The quote at `position` ends its line: nothing but a line break or the end of the text follows.
+bool quoteStandsAlone(std::string_view text, std::size_t position) {
+    return position + 1 == text.size() || isLineBreakAt(text, position + 1);
+}
+
 bool isBlank(const Row& row) {
     for (const auto& cell : row) {
         if (cell.find_first_not_of(" \t") != std::string::npos) return false;
@@ -150,7 +162,10 @@ public:
             }
             switch (character.kind) {
                 case Kind::quote:
-                    if (cell_.empty()) {
+                    if (cell_.empty() && row_.empty() && quoteStandsAlone(text_, position)) {
+                        // A line of one quote, left above the table by some exports, opens
+                        // no cell: read as an opening quote it would swallow the table.
+                    } else if (cell_.empty()) {
                         inQuotes = true;
                     } else {
                         cell_.push_back('"');
@@ -200,7 +215,78 @@ bool canSeparate(char separator) {
     return byte < 0x80 && byte != '"' && byte != '\n' && byte != '\v' && byte != '\f' && byte != '\r';
 }
 
+constexpr std::array<char, 3> separatorCandidates{';', '\t', ','};
+using CandidateCounts = std::array<int, 3>;
+// Enough lines to pass a preamble and reach a few movements.
+constexpr std::size_t separatorSampleLines = 60;
+
+// How often each candidate occurs outside quotes on each of the first lines. A line that holds
+// only a quote counts as empty, as the tokenizer reads it.
+std::vector<CandidateCounts> candidateCountsByLine(std::string_view text) {
+    std::vector<CandidateCounts> lines(1);
+    bool inQuotes = false;
+    bool lineStart = true;
+    for (std::size_t position = 0; position < text.size() && lines.size() <= separatorSampleLines;) {
+        const char byte = text[position];
+        if (byte == '"') {
+            if (!(lineStart && !inQuotes && quoteStandsAlone(text, position))) inQuotes = !inQuotes;
+            lineStart = false;
+            ++position;
+            continue;
+        }
+        if (!inQuotes && isLineBreakAt(text, position)) {
+            position += byteAt(text, position) < 0x80 ? asciiLineBreakLength(text, position)
+                                                      : decodeAt(text, position).length;
+            lines.emplace_back();
+            lineStart = true;
+            continue;
+        }
+        lineStart = false;
+        if (!inQuotes) {
+            for (std::size_t index = 0; index < separatorCandidates.size(); ++index) {
+                if (byte == separatorCandidates[index]) ++lines.back()[index];
+            }
+        }
+        ++position;
+    }
+    return lines;
+}
+
+// The longest run of consecutive lines after the first in which the candidate splits every line
+// into the same number of cells, more than one.
+std::size_t longestConsistentRun(const std::vector<CandidateCounts>& lines, std::size_t candidate) {
+    std::size_t longest = 0;
+    std::size_t run = 0;
+    for (std::size_t index = 1; index < lines.size(); ++index) {
+        const int count = lines[index][candidate];
+        if (count == 0) {
+            run = 0;
+            continue;
+        }
+        run = run > 0 && lines[index - 1][candidate] == count ? run + 1 : 1;
+        longest = std::max(longest, run);
+    }
+    return longest;
+}
+
 }  // namespace
+
+SeparatorGuess guessSeparator(std::string_view text) {
+    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    const auto lines = candidateCountsByLine(text);
+    const auto& first = lines.front();
+    if (std::any_of(first.begin(), first.end(), [](int count) { return count > 0; })) {
+        return {detectSeparator(text), "firstLine"};
+    }
+    std::size_t best = 0;
+    std::array<std::size_t, 3> runs{};
+    for (std::size_t index = 0; index < separatorCandidates.size(); ++index) {
+        runs[index] = longestConsistentRun(lines, index);
+        if (runs[index] > runs[best]) best = index;
+    }
+    if (runs[best] < 2) return {',', "default"};
+    return {separatorCandidates[best], "consistentRows"};
+}
 
 Table parse(std::string_view text, std::optional<char> separator) {
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
@@ -210,8 +296,8 @@ Table parse(std::string_view text, std::optional<char> separator) {
 
 char detectSeparator(std::string_view text) {
     // Candidates in the order that breaks ties.
-    constexpr std::array<char, 3> candidates{';', '\t', ','};
-    std::array<int, 3> counts{};
+    constexpr auto candidates = separatorCandidates;
+    CandidateCounts counts{};
     // The quote and line breaks are all the walk needs to tell apart; the candidates are
     // checked for glued neighbours below.
     const Characters characters(';');

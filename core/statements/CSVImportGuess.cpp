@@ -17,16 +17,49 @@ namespace {
 using DateOrder = CSVImportOptions::DateOrder;
 using Words = std::span<const std::string_view>;
 
-// Keywords are compared with folded (lower-case, accent-free) column names.
-constexpr std::array<std::string_view, 2> dateWords{"data", "date"};
+// What names a column, compared with folded (lower-case, accent-free) and trimmed column names:
+// a name that contains one of `words`, or that equals one of `words` or of `names` (words too
+// short or too common to look for inside a longer name); a name holding an exclusion word is
+// taken only when no other matches.
+struct Keywords {
+    Words words;
+    Words exclusions = {};
+    Words names = {};
+};
+
+constexpr std::array<std::string_view, 5> dateWords{"data", "date", "datum", "fecha", "buchungstag"};
 // The value date loses to the booking date whichever comes first.
-constexpr std::array<std::string_view, 2> dateExclusions{"valuta", "value"};
-constexpr std::array<std::string_view, 4> amountWords{"importo", "amount", "ammontare", "valore"};
-constexpr std::array<std::string_view, 5> incomeWords{"entrate", "accrediti", "avere", "income", "credit"};
-constexpr std::array<std::string_view, 5> expenseWords{"uscite", "addebiti", "dare", "expense", "debit"};
-constexpr std::array<std::string_view, 8> descriptionWords{
-    "descrizione", "causale", "description", "dettagli", "details", "memo", "nota", "note"};
+constexpr std::array<std::string_view, 5> dateExclusions{"valuta", "value", "valeur", "valor", "wertstellung"};
+constexpr std::array<std::string_view, 9> amountWords{"importo", "amount", "ammontare", "valore", "betrag",
+                                                      "umsatz",  "montant", "importe", "bedrag"};
+// Payment services write gross, fee and net; the net amount is what moved.
+constexpr std::array<std::string_view, 2> amountNames{"netto", "net"};
+constexpr std::array<std::string_view, 8> incomeWords{"entrate", "accrediti", "avere",   "income",
+                                                      "credit",  "paid in",   "money in", "abono"};
+constexpr std::array<std::string_view, 2> incomeNames{"haben", "bij"};
+constexpr std::array<std::string_view, 8> expenseWords{"uscite", "addebiti", "dare",      "expense",
+                                                       "debit",  "paid out", "money out", "cargo"};
+constexpr std::array<std::string_view, 2> expenseNames{"soll", "af"};
+constexpr std::array<std::string_view, 14> descriptionWords{
+    "descrizione", "causale",          "description", "dettagli", "details",      "memo",        "nota",
+    "note",        "descripcion",      "libelle",     "concepto", "omschrijving", "beschreibung", "verwendungszweck"};
+// Payment services' reports tell a movement by the other party's name.
+constexpr std::array<std::string_view, 2> descriptionNames{"name", "nome"};
 constexpr std::array<std::string_view, 2> categoryWords{"categoria", "category"};
+constexpr std::array<std::string_view, 2> statusWords{"stato", "status"};
+constexpr std::array<std::string_view, 2> statusNames{"state", "esito"};
+constexpr std::array<std::string_view, 12> signNames{"s/h",   "soll/haben", "af bij",       "af/bij",
+                                                     "d/c",   "dr/cr",      "cr/dr",        "segno",
+                                                     "sign",  "+/-",        "debit/credit", "dare/avere"};
+
+constexpr Keywords dateKeywords{dateWords, dateExclusions};
+constexpr Keywords amountKeywords{amountWords, {}, amountNames};
+constexpr Keywords incomeKeywords{incomeWords, {}, incomeNames};
+constexpr Keywords expenseKeywords{expenseWords, {}, expenseNames};
+constexpr Keywords descriptionKeywords{descriptionWords, {}, descriptionNames};
+constexpr Keywords categoryKeywords{categoryWords};
+constexpr Keywords statusKeywords{statusWords, {}, statusNames};
+constexpr Keywords signKeywords{{}, {}, signNames};
 
 // Statements open with a few lines about the holder, the period and the balance; the column
 // names are looked for this far down.
@@ -39,36 +72,62 @@ bool containsAny(const std::string& name, Words words) {
                        [&](std::string_view word) { return name.find(word) != std::string::npos; });
 }
 
-// The first column whose name holds a keyword and no exclusion word; failing that, the first
-// whose name holds a keyword.
-std::optional<int> columnNamed(const std::vector<std::string>& names, Words words, Words exclusions = {}) {
+bool equalsAny(const std::string& name, Words words) {
+    return std::find(words.begin(), words.end(), name) != words.end();
+}
+
+// A column and the rule that found it.
+struct Found {
+    std::optional<int> column;
+    std::string_view rule = "notFound";
+};
+
+// The first column named exactly by a keyword; failing that, the first whose name holds a
+// keyword and no exclusion word; failing that, the first whose name holds a keyword.
+Found columnNamed(const std::vector<std::string>& names, const Keywords& keywords) {
+    for (std::size_t index = 0; index < names.size(); ++index) {
+        if (equalsAny(names[index], keywords.words) || equalsAny(names[index], keywords.names)) {
+            return {static_cast<int>(index), "headerExactName"};
+        }
+    }
     std::optional<int> firstMatch;
     for (std::size_t index = 0; index < names.size(); ++index) {
-        if (!containsAny(names[index], words)) continue;
-        if (!containsAny(names[index], exclusions)) return static_cast<int>(index);
+        if (!containsAny(names[index], keywords.words)) continue;
+        if (!containsAny(names[index], keywords.exclusions)) return {static_cast<int>(index), "headerKeyword"};
         if (!firstMatch) firstMatch = static_cast<int>(index);
     }
-    return firstMatch;
+    if (firstMatch) return {firstMatch, "headerKeyword"};
+    return {};
 }
 
 struct Columns {
-    std::optional<int> date, amount, income, expense, description, category;
+    Found date, amount, income, expense, description, category, sign, status;
 
-    [[nodiscard]] bool namesDateOrAmount() const { return date || amount || (income && expense); }
-    [[nodiscard]] bool namesDateAndAmount() const { return date && (amount || (income && expense)); }
-    [[nodiscard]] bool namesAny() const { return date || amount || income || expense || description || category; }
+    [[nodiscard]] bool namesAmount() const { return amount.column || (income.column && expense.column); }
+    [[nodiscard]] bool namesDateOrAmount() const { return date.column || namesAmount(); }
+    [[nodiscard]] bool namesDateAndAmount() const { return date.column && namesAmount(); }
+    [[nodiscard]] bool namesAny() const {
+        return date.column || amount.column || income.column || expense.column || description.column ||
+               category.column;
+    }
 };
 
 Columns columnsNamedIn(const CSV::Row& row) {
     std::vector<std::string> names;
     names.reserve(row.size());
     for (const auto& cell : row) names.push_back(Text::folded(Text::trimmed(cell)));
-    return {columnNamed(names, dateWords, dateExclusions),
-            columnNamed(names, amountWords),
-            columnNamed(names, incomeWords),
-            columnNamed(names, expenseWords),
-            columnNamed(names, descriptionWords),
-            columnNamed(names, categoryWords)};
+    Columns columns;
+    // "Soll/Haben" or "Dare/Avere" names the side of the amount, not money in or out.
+    columns.sign = columnNamed(names, signKeywords);
+    if (columns.sign.column) names[static_cast<std::size_t>(*columns.sign.column)].clear();
+    columns.date = columnNamed(names, dateKeywords);
+    columns.amount = columnNamed(names, amountKeywords);
+    columns.income = columnNamed(names, incomeKeywords);
+    columns.expense = columnNamed(names, expenseKeywords);
+    columns.description = columnNamed(names, descriptionKeywords);
+    columns.category = columnNamed(names, categoryKeywords);
+    columns.status = columnNamed(names, statusKeywords);
+    return columns;
 }
 
 bool readsAsDate(std::string_view cell) {
@@ -112,17 +171,33 @@ std::optional<std::size_t> unnamedHeaderRowOf(const CSV::Table& table) {
     return std::nullopt;
 }
 
+struct HeaderRow {
+    std::optional<std::size_t> row;
+    std::string_view rule = "noHeaderFound";
+};
+
 // The row that names the columns: the first row when it names the date or the amount, else the
-// first of the opening rows that names both; the first row again when it names anything at all;
-// failing all of these, a row of words right above the first movement.
-std::optional<std::size_t> headerRowOf(const CSV::Table& table) {
-    if (mayNameColumns(table.front()) && columnsNamedIn(table.front()).namesDateOrAmount()) return 0;
+// first of the opening rows that names both, else the first row of words below the first that
+// names the amount (its date column is then found in the data); the first row again when it
+// names anything at all; failing all of these, a row of words right above the first movement.
+HeaderRow headerRowOf(const CSV::Table& table) {
+    if (mayNameColumns(table.front()) && columnsNamedIn(table.front()).namesDateOrAmount()) {
+        return {0, "firstRowNames"};
+    }
     const std::size_t end = std::min(table.size(), headerSearchRows);
     for (std::size_t index = 0; index < end; ++index) {
-        if (mayNameColumns(table[index]) && columnsNamedIn(table[index]).namesDateAndAmount()) return index;
+        if (mayNameColumns(table[index]) && columnsNamedIn(table[index]).namesDateAndAmount()) {
+            return {index, "namedRowBelow"};
+        }
     }
-    if (mayNameColumns(table.front()) && columnsNamedIn(table.front()).namesAny()) return 0;
-    return unnamedHeaderRowOf(table);
+    for (std::size_t index = 1; index < end; ++index) {
+        if (isTextOnly(table[index]) && columnsNamedIn(table[index]).namesAmount()) {
+            return {index, "amountNamedRowBelow"};
+        }
+    }
+    if (mayNameColumns(table.front()) && columnsNamedIn(table.front()).namesAny()) return {0, "firstRowAnyName"};
+    if (const auto row = unnamedHeaderRowOf(table)) return {row, "wordsAboveFirstMovement"};
+    return {};
 }
 
 bool looksLikeMoney(std::string_view cell) {
@@ -140,39 +215,41 @@ bool looksLikeMoney(std::string_view cell) {
 // first other amount (written like money if any is), and the longest text as the description.
 void fillFromData(Columns& columns, const CSV::Row& firstData) {
     std::set<int> taken;
-    for (const auto& column : {columns.date, columns.amount, columns.income, columns.expense,
-                               columns.description, columns.category}) {
-        if (column) taken.insert(*column);
+    for (const Found* found : {&columns.date, &columns.amount, &columns.income, &columns.expense,
+                               &columns.description, &columns.category, &columns.sign, &columns.status}) {
+        if (found->column) taken.insert(*found->column);
     }
     const auto width = static_cast<int>(firstData.size());
     const auto cell = [&](int index) -> const std::string& { return firstData[static_cast<std::size_t>(index)]; };
-    if (!columns.date) {
+    const auto take = [&](Found& found, int index) {
+        found = {index, "dataCells"};
+        taken.insert(index);
+    };
+    if (!columns.date.column) {
         for (int index = 0; index < width; ++index) {
             if (!taken.contains(index) && readsAsDate(cell(index))) {
-                columns.date = index;
-                taken.insert(index);
+                take(columns.date, index);
                 break;
             }
         }
     }
-    if (!columns.amount && !(columns.income && columns.expense)) {
+    if (!columns.namesAmount()) {
         // Reference numbers read as amounts too; money shows a sign, cents or the euro sign.
         for (const bool moneyOnly : {true, false}) {
-            for (int index = 0; index < width && !columns.amount; ++index) {
+            for (int index = 0; index < width && !columns.amount.column; ++index) {
                 if (taken.contains(index) || !readsAsAmount(cell(index))) continue;
-                if (!moneyOnly || looksLikeMoney(cell(index))) columns.amount = index;
+                if (!moneyOnly || looksLikeMoney(cell(index))) take(columns.amount, index);
             }
         }
-        if (columns.amount) taken.insert(*columns.amount);
     }
-    if (!columns.description) {
+    if (!columns.description.column) {
         std::size_t longest = 0;
         for (int index = 0; index < width; ++index) {
             const auto& text = cell(index);
             if (taken.contains(index) || !hasLetter(text) || readsAsDate(text) || readsAsAmount(text)) continue;
             if (text.size() > longest) {
                 longest = text.size();
-                columns.description = index;
+                columns.description = {index, "dataCells"};
             }
         }
     }
@@ -190,9 +267,14 @@ std::optional<DateOrder> dateOrderNamedIn(std::string name) {
     return std::nullopt;
 }
 
+struct DateOrderGuess {
+    DateOrder order = DateOrder::dayMonthYear;
+    std::string_view rule = "default";
+};
+
 // A four-digit first part is a year; a first part above 12 is a day; a second part above 12 is
 // a day after the month. Without any of these the Italian day-month-year stands.
-DateOrder dateOrderOfDates(const CSV::Table& table, std::size_t firstData, int column) {
+DateOrderGuess dateOrderOfDates(const CSV::Table& table, std::size_t firstData, int column) {
     bool dayFirst = false;
     bool monthFirst = false;
     const std::size_t end = std::min(table.size(), firstData + dateOrderSampleRows);
@@ -201,42 +283,76 @@ DateOrder dateOrderOfDates(const CSV::Table& table, std::size_t firstData, int c
         if (static_cast<std::size_t>(column) >= row.size()) continue;
         const auto numbers = StatementDate::writtenNumbers(row[static_cast<std::size_t>(column)]);
         if (!numbers) continue;
-        if (numbers->digitCounts[0] == 4) return DateOrder::yearMonthDay;
+        if (numbers->digitCounts[0] == 4) return {DateOrder::yearMonthDay, "dates"};
         if (numbers->values[0] > 12) dayFirst = true;
         if (numbers->values[1] > 12) monthFirst = true;
     }
-    return monthFirst && !dayFirst ? DateOrder::monthDayYear : DateOrder::dayMonthYear;
+    if (monthFirst && !dayFirst) return {DateOrder::monthDayYear, "dates"};
+    if (dayFirst) return {DateOrder::dayMonthYear, "dates"};
+    return {};
+}
+
+DateOrderGuess dateOrderOf(const CSV::Table& table, const HeaderRow& header, std::size_t firstData, int column) {
+    if (header.row && static_cast<std::size_t>(column) < table[*header.row].size()) {
+        const auto named = dateOrderNamedIn(Text::folded(table[*header.row][static_cast<std::size_t>(column)]));
+        if (named) return {*named, "columnName"};
+    }
+    return dateOrderOfDates(table, firstData, column);
+}
+
+// Money out and money in named as such are two columns even when their names also hold an
+// amount keyword ("Debit Amount", "Credit Amount").
+bool namesSeparateColumns(const Columns& columns) {
+    const auto& amount = columns.amount.column;
+    return columns.income.column && columns.expense.column && columns.income.column != columns.expense.column &&
+           (!amount || amount == columns.income.column || amount == columns.expense.column);
 }
 
 }  // namespace
 
-CSVImportOptions CSVImportOptions::guessed(const CSV::Table& table) {
-    CSVImportOptions options;
-    if (table.empty()) return options;
+CSVImportGuess CSVImportGuess::of(const CSV::Table& table) {
+    CSVImportGuess guess;
+    if (table.empty()) return guess;
 
-    const auto headerRow = headerRowOf(table);
-    Columns columns = headerRow ? columnsNamedIn(table[*headerRow]) : Columns{};
-    const std::size_t firstData = headerRow ? *headerRow + 1 : 0;
+    const HeaderRow header = headerRowOf(table);
+    Columns columns = header.row ? columnsNamedIn(table[*header.row]) : Columns{};
+    const bool separate = namesSeparateColumns(columns);
+    if (separate && columns.amount.column) columns.amount = {};
+    const std::size_t firstData = header.row ? *header.row + 1 : 0;
     if (firstData < table.size()) fillFromData(columns, table[firstData]);
 
-    options.hasHeader = headerRow.has_value();
-    options.headerRow = static_cast<int>(headerRow.value_or(0));
-    options.dateColumn = columns.date;
-    options.amountColumn = columns.amount;
-    options.incomeColumn = columns.income;
-    options.expenseColumn = columns.expense;
-    options.descriptionColumn = columns.description;
-    options.categoryColumn = columns.category;
-    if (columns.income && columns.expense && !columns.amount) options.amountMode = AmountMode::separate;
+    CSVImportOptions& options = guess.options;
+    options.hasHeader = header.row.has_value();
+    options.headerRow = static_cast<int>(header.row.value_or(0));
+    options.dateColumn = columns.date.column;
+    options.amountColumn = columns.amount.column;
+    options.incomeColumn = columns.income.column;
+    options.expenseColumn = columns.expense.column;
+    options.descriptionColumn = columns.description.column;
+    options.categoryColumn = columns.category.column;
+    options.signColumn = columns.sign.column;
+    options.statusColumn = columns.status.column;
+    if (separate) options.amountMode = CSVImportOptions::AmountMode::separate;
 
-    if (columns.date) {
-        std::optional<DateOrder> named;
-        if (headerRow && static_cast<std::size_t>(*columns.date) < table[*headerRow].size()) {
-            named = dateOrderNamedIn(Text::folded(table[*headerRow][static_cast<std::size_t>(*columns.date)]));
-        }
-        options.dateOrder = named.value_or(dateOrderOfDates(table, firstData, *columns.date));
-    }
-    return options;
+    DateOrderGuess dateOrder;
+    if (columns.date.column) dateOrder = dateOrderOf(table, header, firstData, *columns.date.column);
+    options.dateOrder = dateOrder.order;
+
+    guess.rules = {{"hasHeader", std::string(header.rule)},
+                   {"headerRow", std::string(header.rule)},
+                   {"dateColumn", std::string(columns.date.rule)},
+                   {"dateOrder", std::string(dateOrder.rule)},
+                   {"amountMode", separate ? "incomeAndExpenseColumns" : "oneAmountColumn"},
+                   {"amountColumn", std::string(columns.amount.rule)},
+                   {"incomeColumn", std::string(columns.income.rule)},
+                   {"expenseColumn", std::string(columns.expense.rule)},
+                   {"descriptionColumn", std::string(columns.description.rule)},
+                   {"categoryColumn", std::string(columns.category.rule)},
+                   {"signColumn", std::string(columns.sign.rule)},
+                   {"statusColumn", std::string(columns.status.rule)}};
+    return guess;
 }
+
+CSVImportOptions CSVImportOptions::guessed(const CSV::Table& table) { return CSVImportGuess::of(table).options; }
 
 }  // namespace vantello

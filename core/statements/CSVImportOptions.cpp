@@ -48,4 +48,24 @@ std::string label(AmountMode mode) {
                                         : L10n::tr("Una colonna, con il meno per le uscite");
 }
 
+CSVGuessRules rulesAfterChoices(CSVGuessRules rules, const CSVImportOptions& guessed,
+                                const CSVImportOptions& chosen) {
+    const auto mark = [&](std::string_view option, bool changed) {
+        if (changed) rules.insert_or_assign(std::string(option), "user");
+    };
+    mark("hasHeader", guessed.hasHeader != chosen.hasHeader);
+    mark("headerRow", guessed.headerRow != chosen.headerRow);
+    mark("dateColumn", guessed.dateColumn != chosen.dateColumn);
+    mark("dateOrder", guessed.dateOrder != chosen.dateOrder);
+    mark("amountMode", guessed.amountMode != chosen.amountMode);
+    mark("amountColumn", guessed.amountColumn != chosen.amountColumn);
+    mark("incomeColumn", guessed.incomeColumn != chosen.incomeColumn);
+    mark("expenseColumn", guessed.expenseColumn != chosen.expenseColumn);
+    mark("descriptionColumn", guessed.descriptionColumn != chosen.descriptionColumn);
+    mark("categoryColumn", guessed.categoryColumn != chosen.categoryColumn);
+    mark("signColumn", guessed.signColumn != chosen.signColumn);
+    mark("statusColumn", guessed.statusColumn != chosen.statusColumn);
+    return rules;
+}
+
 }  // namespace vantello

@@ -3,6 +3,7 @@
 #include "core/base/Localization.hpp"
 #include "core/base/Text.hpp"
 #include "core/base/Uuid.hpp"
+#include "core/statements/CSVRowMarks.hpp"
 #include "core/statements/StatementAmount.hpp"
 #include "core/statements/StatementDate.hpp"
 
@@ -99,9 +100,13 @@ SignedAmount signedAmount(const std::vector<std::string>& cells, const CSVImport
     switch (reading.status) {
         case StatementAmount::Status::empty: return {};
         case StatementAmount::Status::unreadable: return {std::nullopt, unreadableAmount(cell)};
-        case StatementAmount::Status::amount: return {reading.value, std::nullopt};
+        case StatementAmount::Status::amount: break;
     }
-    return {};
+    // A side written beside the amount ("S"/"H", "Af"/"Bij") wins over the amount's own sign.
+    const auto side = options.signColumn ? CSVRowMarks::sideOf(cellAt(cells, options.signColumn)) : std::nullopt;
+    if (!side) return {reading.value, std::nullopt};
+    const Decimal magnitude = reading.value.magnitude();
+    return {*side == CSVRowMarks::Side::moneyOut ? -magnitude : magnitude, std::nullopt};
 }
 
 // Income wins when both columns hold money; the sign written in either column is ignored.
@@ -125,6 +130,18 @@ CSVImportRow converted(const std::vector<std::string>& cells, int line, const CS
     const auto date = StatementDate::read(dateCell, options.dateOrder, calendar);
     if (!date) return problemRow(line, L10n::tr("Data non leggibile: «{text}»", {{"text", dateCell}}));
 
+    // Movements not booked (pending, declined, reverted) and balance lines are shown, not imported.
+    if (const auto status = cellAt(cells, options.statusColumn);
+        options.statusColumn && CSVRowMarks::isNotBooked(status)) {
+        return problemRow(line,
+                          L10n::tr("Movimento non contabilizzato: «{text}»", {{"text", Text::trimmedView(status)}}));
+    }
+    const auto description = cellAt(cells, options.descriptionColumn);
+    if (CSVRowMarks::isBalanceLine(description)) {
+        return problemRow(line, L10n::tr("Riga di saldo, non un movimento: «{text}»",
+                                         {{"text", Text::trimmedView(description)}}));
+    }
+
     const bool separate = options.amountMode == AmountMode::separate;
     if (separate && (!options.incomeColumn || !options.expenseColumn)) {
         return problemRow(line, L10n::tr("Scegli le colonne di entrate e uscite."));
@@ -145,7 +162,7 @@ CSVImportRow converted(const std::vector<std::string>& cells, int line, const CS
     transaction.date = *date;
     transaction.categoryID = categoryID(cellAt(cells, options.categoryColumn), transaction.kind, options,
                                         options.categoryColumn.has_value(), categories);
-    transaction.note = collapsedWhitespace(cellAt(cells, options.descriptionColumn));
+    transaction.note = collapsedWhitespace(description);
     return {line, std::move(transaction), std::nullopt};
 }
 

@@ -3,6 +3,7 @@
 #include "core/base/CivilDays.hpp"
 #include "core/base/Text.hpp"
 
+#include <algorithm>
 #include <string>
 
 namespace vantello::StatementDate {
@@ -237,6 +238,18 @@ std::optional<Tokens> dateTokens(std::string_view cell) {
     return tokenized(withoutTimeOfDay(Text::trimmedView(cell)));
 }
 
+// "20240305", as Dutch and German banks write it: year, month and day whatever the order.
+std::optional<CivilDate> fromCompactDigits(std::string_view cell) {
+    const std::string_view text = Text::trimmedView(cell);
+    if (text.size() != 8 || !std::all_of(text.begin(), text.end(), isDigit)) return std::nullopt;
+    const auto number = [&](std::size_t start, std::size_t length) {
+        int value = 0;
+        for (const char digit : text.substr(start, length)) value = value * 10 + (digit - '0');
+        return value;
+    };
+    return validated(number(0, 4), number(4, 2), number(6, 2));
+}
+
 }  // namespace
 
 std::optional<WrittenNumbers> writtenNumbers(std::string_view cell) {
@@ -252,7 +265,7 @@ std::optional<WrittenNumbers> writtenNumbers(std::string_view cell) {
 
 std::optional<CivilDate> civilDate(std::string_view cell, DateOrder order) {
     const auto parts = dateTokens(cell);
-    if (!parts) return std::nullopt;
+    if (!parts) return fromCompactDigits(cell);
     if (isAllNumbers(*parts)) return isWrittenWithDigits(*parts) ? fromNumbers(*parts, order) : std::nullopt;
     return fromNamedMonth(*parts);
 }

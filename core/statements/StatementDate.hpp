@@ -1,6 +1,7 @@
 #pragma once
 // Reads the booking date of a statement row: "05/03/2024", "2024-03-05", "5.3.24", also with a
-// month name ("5 mar 2024", "Apr 8, 2018") and with a time of day after it, which is ignored.
+// month name ("5 mar 2024", "Apr 8, 2018"), as eight digits ("20240305", year first), and with
+// a time of day after it, which is ignored.
 
 #include "core/base/Calendar.hpp"
 #include "core/base/Instant.hpp"

@@ -87,6 +87,51 @@ TEST(CSVImportOptions, HeaderWithUnknownNamesStaysHeaderAndDataFallbackReadsFirs
     EXPECT_FALSE(Options::guessed({{"POS ESSELUNGA", "CARTA"}, {"BONIFICO", "-12,50"}}).hasHeader);
 }
 
+TEST(CSVImportOptions, ExactNameWinsOverAKeywordInsideALongerName) {
+    const auto paypal = CSVImportGuess::of(
+        {{"Data", "Nome", "Stato", "Lordo", "Tariffa", "Netto", "Importo spedizione e imballaggio"}});
+    EXPECT_EQ(paypal.options.amountColumn, 5);
+    EXPECT_EQ(paypal.options.descriptionColumn, 1);
+    EXPECT_EQ(paypal.options.statusColumn, 2);
+    EXPECT_EQ(paypal.rules.at("amountColumn"), "headerExactName");
+    EXPECT_EQ(guessedFromHeader({"Date", "Gross", "Fee", "Net", "Shipping and Handling Amount"}).amountColumn, 3);
+    // Without an exact name the first name holding a keyword stays.
+    EXPECT_EQ(guessedFromHeader({"Importo spedizione", "Importo EUR"}).amountColumn, 0);
+}
+
+TEST(CSVImportOptions, MoneyOutAndMoneyInAreTwoColumnsAndASideColumnIsNeither) {
+    for (const CSV::Row& header : {CSV::Row{"Date", "Paid Out", "Paid In"}, CSV::Row{"Date", "Money out", "Money in"},
+                                   CSV::Row{"Date", "Debit Amount", "Credit Amount"},
+                                   CSV::Row{"Buchungstag", "Soll", "Haben"}}) {
+        const auto guess = CSVImportGuess::of({header});
+        EXPECT_EQ(guess.options.amountMode, Options::AmountMode::separate) << header[1];
+        EXPECT_EQ(guess.options.amountColumn, std::nullopt) << header[1];
+        EXPECT_EQ(guess.options.expenseColumn, 1) << header[1];
+        EXPECT_EQ(guess.options.incomeColumn, 2) << header[1];
+        EXPECT_EQ(guess.rules.at("amountMode"), "incomeAndExpenseColumns");
+    }
+    for (const CSV::Row& header : {CSV::Row{"Buchungstag", "Umsatz", "Soll/Haben"}, CSV::Row{"Data", "Importo", "Dare/Avere"},
+                                   CSV::Row{"Datum", "Bedrag (EUR)", "Af Bij"}}) {
+        const auto options = guessedFromHeader(header);
+        EXPECT_EQ(options.amountMode, Options::AmountMode::signed_) << header[2];
+        EXPECT_EQ(options.amountColumn, 1) << header[2];
+        EXPECT_EQ(options.signColumn, 2) << header[2];
+        EXPECT_EQ(options.incomeColumn, std::nullopt) << header[2];
+    }
+}
+
+TEST(CSVImportOptions, RowNamingMoneyBelowThePreambleIsTheHeaderAndTheDataGiveTheDate) {
+    const auto guess = CSVImportGuess::of({{"Conto corrente", "IT60X0542811101000000123456"},
+                                           {"Saldo contabile", "2.345,67"},
+                                           {"Operazione", "Descrizione", "Accrediti", "Addebiti"},
+                                           {"02/11/2026", "STIPENDIO", "1.850,00", ""}});
+    EXPECT_EQ(guess.options.headerRow, 2);
+    EXPECT_EQ(guess.rules.at("headerRow"), "amountNamedRowBelow");
+    EXPECT_EQ(guess.options.dateColumn, 0);
+    EXPECT_EQ(guess.rules.at("dateColumn"), "dataCells");
+    EXPECT_EQ(guess.options.amountMode, Options::AmountMode::separate);
+}
+
 TEST(CSVImportOptions, DateOrderComesFromTheNameOrTheDates) {
     const auto order = [](CSV::Table table) { return Options::guessed(table).dateOrder; };
     using Order = Options::DateOrder;

@@ -127,6 +127,25 @@ TEST(CSVImporter, SeparateColumnsIgnoreTheWrittenSign) {
     EXPECT_EQ(problemOf({"05/03/2024", "", "0,00"}, options), "Importo assente o uguale a zero.");
 }
 
+TEST(CSVImporter, SideColumnStatusAndBalanceLines) {
+    auto options = signedOptions();
+    options.signColumn = 3;
+    options.statusColumn = 4;
+    const auto kindOf = [&](const CSV::Row& cells) { return convert(cells, options).transaction.value().kind; };
+    EXPECT_EQ(kindOf({"05/03/2024", "12,50", "Miete", "S", ""}), TransactionKind::expense);
+    EXPECT_EQ(kindOf({"05/03/2024", "-12,50", "Gehalt", " bij ", ""}), TransactionKind::income);
+    EXPECT_EQ(kindOf({"05/03/2024", "-12,50", "Senza lato", "", ""}), TransactionKind::expense);
+    EXPECT_EQ(kindOf({"05/03/2024", "-1", "Saldo fattura 12", "", "CONTABILIZZATO"}), TransactionKind::expense);
+
+    EXPECT_EQ(problemOf({"05/03/2024", "-1", "X", "", " NON CONTABILIZZATO "}, options),
+              "Movimento non contabilizzato: «NON CONTABILIZZATO»");
+    EXPECT_EQ(problemOf({"05/03/2024", "-1", "X", "", "Pending"}, options), "Movimento non contabilizzato: «Pending»");
+    EXPECT_EQ(problemOf({"30/11/2026", "955,01", "Saldo finale", "", ""}, options),
+              "Riga di saldo, non un movimento: «Saldo finale»");
+    // The date is read first: a balance line without one keeps the date's problem.
+    EXPECT_EQ(problemOf({"Saldo iniziale", "1", "", "", ""}, options), "Data non leggibile: «Saldo iniziale»");
+}
+
 TEST(CSVImporter, CategoryCellMatchesANameOfTheRowsKind) {
     auto options = signedOptions();
     options.categoryColumn = 2;

@@ -24,6 +24,27 @@ TEST(CSV, BlankRowsAreDroppedAndCellsKeepTheirSpaces) {
     EXPECT_TRUE(CSV::parse("\xEF\xBB\xBF\n \n").empty());
 }
 
+TEST(CSV, LineOfALoneQuoteOpensNoCell) {
+    EXPECT_EQ(CSV::parse("\"\r\nConto;IT60X\nData;Descrizione\n01/11/2026;\"A;B\"\n\"", ';'),
+              (Table{{"Conto", "IT60X"}, {"Data", "Descrizione"}, {"01/11/2026", "A;B"}}));
+}
+
+TEST(CSV, BelowAFirstLineWithoutSeparatorTheRowsAgreeingOnTheCellsDecide) {
+    // The descriptions hold commas, but only the semicolon splits every row alike.
+    const auto belowTitle = CSV::guessSeparator(
+        "Controvalori aggiornati al 23/11/2026\nData;Descrizione;Importo\n"
+        "03/11/2026;POS CONAD, BOLOGNA;-1,00\n04/11/2026;ENEL;-2,00\n05/11/2026;A, B;3\n");
+    EXPECT_EQ(belowTitle.separator, ';');
+    EXPECT_EQ(belowTitle.rule, "consistentRows");
+    const auto belowQuote = CSV::guessSeparator("\"\nData\tImporto\n01/11/2026\t-1,00\n");
+    EXPECT_EQ(belowQuote.separator, '\t');
+    // The first line decides whenever it holds a candidate, as detectSeparator says.
+    const auto firstLine = CSV::guessSeparator("Data;Importo\n1,2,3\n4,5,6\n");
+    EXPECT_EQ(firstLine.separator, ';');
+    EXPECT_EQ(firstLine.rule, "firstLine");
+    EXPECT_EQ(CSV::guessSeparator("Titolo\nData;Importo\nfine\n").rule, "default");
+}
+
 TEST(CSV, EveryNewlineEndsARowAndCarriageReturnLineFeedIsOne) {
     EXPECT_EQ(CSV::parse("a\r\nb\rc\nd\ve\ff\xC2\x85g\xE2\x80\xA8h\xE2\x80\xA9i", ','),
               (Table{{"a"}, {"b"}, {"c"}, {"d"}, {"e"}, {"f"}, {"g"}, {"h"}, {"i"}}));

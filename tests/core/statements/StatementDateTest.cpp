@@ -60,6 +60,14 @@ TEST(StatementDate, IgnoresATimeOfDayAfterTheDate) {
     });
 }
 
+TEST(StatementDate, EightDigitsAreYearMonthDayInAnyOrder) {
+    expectReadings({{"20240305", Order::dayMonthYear, CivilDate{2024, 3, 5}},
+                    {" 20240305 ", Order::monthDayYear, CivilDate{2024, 3, 5}},
+                    {"20241305", Order::dayMonthYear, std::nullopt},
+                    {"12345678", Order::yearMonthDay, std::nullopt},
+                    {"2024030", Order::yearMonthDay, std::nullopt}});
+}
+
 TEST(StatementDate, MonthNameDecidesWhichPartIsTheMonth) {
     expectReadings({
         {"5 mar 2024", Order::monthDayYear, fifthOfMarch},

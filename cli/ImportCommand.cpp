@@ -9,6 +9,7 @@
 #include "core/ledger/Ledger.hpp"
 #include "core/statements/CSVImportOptions.hpp"
 #include "core/statements/ImportMerge.hpp"
+#include "core/statements/StatementFormat.hpp"
 #include "core/statements/StatementImport.hpp"
 
 #include <charconv>
@@ -83,6 +84,8 @@ Json optionsJson(const CSVImportOptions& options) {
         {"expenseColumn", columnJson(options.expenseColumn)},
         {"descriptionColumn", columnJson(options.descriptionColumn)},
         {"categoryColumn", columnJson(options.categoryColumn)},
+        {"signColumn", columnJson(options.signColumn)},
+        {"statusColumn", columnJson(options.statusColumn)},
         {"expenseCategoryID", options.expenseCategoryID},
         {"incomeCategoryID", options.incomeCategoryID},
     };
@@ -96,14 +99,20 @@ void printPreview(const StatementImport& statement, bool json, const Calendar& c
                             {"problem", row.problem ? Json(*row.problem) : Json(nullptr)},
                             {"transaction", row.transaction ? Json(*row.transaction) : Json(nullptr)}});
         }
-        out << JsonCoding::pretty({{"separator", separatorName(statement.separator)},
+        out << JsonCoding::pretty({{"format", std::string(rawValue(statement.format))},
+                                   {"separator", separatorName(statement.separator)},
                                    {"options", optionsJson(statement.options)},
+                                   {"guessedBy", Json(statement.guessedBy)},
                                    {"rows", std::move(rows)}});
         return;
     }
-    out << "Separatore: " << separatorName(statement.separator) << '\n';
-    const Json options = optionsJson(statement.options);
-    for (const auto& [key, value] : options.items()) out << key << ": " << value.dump() << '\n';
+    out << "Formato: " << rawValue(statement.format) << '\n';
+    if (statement.format == StatementFormat::csv) {
+        out << "Separatore: " << separatorName(statement.separator) << '\n';
+        const Json options = optionsJson(statement.options);
+        for (const auto& [key, value] : options.items()) out << key << ": " << value.dump() << '\n';
+        for (const auto& [option, rule] : statement.guessedBy) out << option << " deciso da: " << rule << '\n';
+    }
     for (const CSVImportRow& row : statement.rows) {
         out << "riga " << row.line << ": ";
         if (!row.transaction) {
@@ -125,6 +134,7 @@ void printResult(const ImportResult& result, const std::vector<const CSVImportRo
                                    {"duplicates", result.duplicates},
                                    {"transfers", result.transfers},
                                    {"invalid", result.invalid},
+                                   {"repeatedInStatement", result.repeatedInStatement},
                                    {"problems", std::move(rows)},
                                    {"saved", saved}});
         return;
@@ -134,6 +144,7 @@ void printResult(const ImportResult& result, const std::vector<const CSVImportRo
         << "Già presenti e saltati: " << result.duplicates << '\n'
         << "Diventati giroconti con un altro conto: " << result.transfers << '\n'
         << "Rifiutati: " << result.invalid << '\n'
+        << "Uguali a un altro movimento dello stesso file: " << result.repeatedInStatement << '\n'
         << "Righe non importabili: " << problems.size() << '\n';
     for (const CSVImportRow* row : problems) out << "  riga " << row->line << ": " << *row->problem << '\n';
     if (!saved) out << "Nessun cambiamento: movimenti.json non è stato riscritto.\n";
@@ -171,7 +182,9 @@ int merge(const Arguments& arguments, const CSVImportOverrides& choices, const s
     const std::size_t rowCount = statement.rows.size();
 
     const ImportResult result = importTransactions(ledger, std::move(statement).transactions(), accountID,
-                                                   arguments.has("--transfers"), calendar);
+                                                   arguments.has("--transfers"), calendar,
+                                                   arguments.has("--count-repeated") ? RepeatedMovements::counted
+                                                                                     : RepeatedMovements::oneDuplicate);
     if (result.changed()) store.save(ledger.data());
     printResult(result, problems, result.changed(), arguments.has("--json"), out);
     if (problems.size() == rowCount) {
@@ -188,7 +201,7 @@ int runImport(const std::vector<std::string>& arguments, std::ostream& out, std:
     CSVImportOverrides choices;
     try {
         ArgumentRules rules;
-        rules.flags = {"--preview", "--transfers", "--json", "--no-header", "--help"};
+        rules.flags = {"--preview", "--transfers", "--count-repeated", "--json", "--no-header", "--help"};
         rules.valueOptions = {"--account",       "--separator",     "--header-row",    "--date-column",
                               "--date-order",    "--amount-column", "--income-column", "--expense-column",
                               "--description-column", "--category-column"};
@@ -205,6 +218,9 @@ int runImport(const std::vector<std::string>& arguments, std::ostream& out, std:
         }
         if (parsed.has("--preview") && parsed.has("--transfers")) {
             throw ArgumentError("--transfers vale solo con --account.");
+        }
+        if (parsed.has("--preview") && parsed.has("--count-repeated")) {
+            throw ArgumentError("--count-repeated vale solo con --account.");
         }
         choices = columnChoices(parsed);
     } catch (const ArgumentError& error) {

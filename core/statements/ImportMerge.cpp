@@ -3,6 +3,7 @@
 #include "core/base/Text.hpp"
 #include "core/base/UserError.hpp"
 #include "core/ledger/CategoryRuleMatcher.hpp"
+#include "core/statements/NameBasedUuid.hpp"
 
 #include <cstdint>
 #include <functional>
@@ -94,16 +95,26 @@ void makeTransfer(Transaction& existing, const std::string& importedAccountID) {
 // The merge itself, on the ledger's movements, which `ledger` is read through as well: the
 // lookups it makes (accounts, categories, people, rules) never look at the movements.
 ImportResult merge(const Ledger& ledger, SharedList<Transaction>& movements, std::vector<Transaction> transactions,
-                   const std::string& chosenAccount, bool detectTransfers, const Calendar& calendar) {
+                   const std::string& chosenAccount, bool detectTransfers, const Calendar& calendar,
+                   RepeatedMovements repeated) {
     ImportResult result;
+    const bool counted = repeated == RepeatedMovements::counted;
     // Every lookup is sized for the whole statement up front: on a large statement, growing the
     // tables step by step would be a good part of the merge's time.
     std::unordered_set<Decimal> importedAmounts(transactions.size());
     std::unordered_set<Uuid> importedIDs(transactions.size());
-    for (Transaction& imported : transactions) {
-        imported.accountID = chosenAccount;
-        importedAmounts.insert(imported.amount);
-        importedIDs.insert(imported.id);
+    std::vector<DuplicateKey> importedKeys;
+    importedKeys.reserve(transactions.size());
+    {
+        std::unordered_set<std::reference_wrapper<const DuplicateKey>, DuplicateKeyHash, std::equal_to<DuplicateKey>>
+            statementKeys(transactions.size());
+        for (Transaction& imported : transactions) {
+            imported.accountID = chosenAccount;
+            importedAmounts.insert(imported.amount);
+            importedIDs.insert(imported.id);
+            importedKeys.emplace_back(imported, calendar);
+            if (!statementKeys.insert(importedKeys.back()).second) ++result.repeatedInStatement;
+        }
     }
 
     // A duplicate has an imported movement's amount and account, and the other half of a
@@ -111,16 +122,20 @@ ImportResult merge(const Ledger& ledger, SharedList<Transaction>& movements, std
     // again); an identifier matters only when the statement holds it too. So the lookups take
     // only those movements of the ledger. That gives the same answers as taking all of them,
     // several times faster on a large ledger: most movements never need their day found, their
-    // note lower-cased or a place in a table.
-    std::unordered_set<DuplicateKey, DuplicateKeyHash> keys(transactions.size());
+    // note lower-cased or a place in a table. `keys` holds how many movements are left to match
+    // each key; only presence counts unless repeated movements are counted, and then a movement
+    // the statement names by its bank id is matched by that id instead.
+    std::unordered_map<DuplicateKey, int, DuplicateKeyHash> keys(transactions.size());
     std::unordered_set<Uuid> ids(transactions.size());
     PositionsByAmount candidates;
     std::uint32_t position = 0;
     for (const Transaction& existing : movements) {
-        if (importedIDs.contains(existing.id)) ids.insert(existing.id);
+        const bool namedByStatement = importedIDs.contains(existing.id);
+        if (namedByStatement) ids.insert(existing.id);
         if (importedAmounts.contains(existing.amount)) {
             if (existing.accountID == chosenAccount) {
-                keys.emplace(existing, calendar);
+                const bool matchedByID = counted && namedByStatement && isNameBased(existing.id);
+                if (!matchedByID) ++keys[DuplicateKey(existing, calendar)];
             } else if (detectTransfers && !existing.isTransfer()) {
                 candidates[existing.amount].push_back(position);
             }
@@ -129,15 +144,21 @@ ImportResult merge(const Ledger& ledger, SharedList<Transaction>& movements, std
     }
 
     const CategoryRuleMatcher rules(ledger);
-    for (Transaction& imported : transactions) {
+    for (std::size_t index = 0; index < transactions.size(); ++index) {
+        Transaction& imported = transactions[index];
         if (imported.categoryID == fallbackCategoryID(imported.kind)) {
             if (auto category = rules.categoryFor(imported.note, imported.kind)) {
                 imported.categoryID = std::move(*category);
             }
         }
 
-        DuplicateKey key(imported, calendar);
-        if (keys.contains(key)) {
+        if (isNameBased(imported.id) && ids.contains(imported.id)) {
+            ++result.duplicates;  // the same bank record, imported before
+            continue;
+        }
+        DuplicateKey& key = importedKeys[index];
+        if (const auto match = keys.find(key); match != keys.end() && match->second > 0) {
+            if (counted) --match->second;
             ++result.duplicates;
             continue;
         }
@@ -163,9 +184,9 @@ ImportResult merge(const Ledger& ledger, SharedList<Transaction>& movements, std
             continue;
         }
 
-        // On the chosen account, an appended movement can be a later row's duplicate but never
-        // the other half of its transfer.
-        keys.insert(std::move(key));
+        // On the chosen account, an appended movement can be a later row's duplicate (unless
+        // repeated movements are counted) but never the other half of its transfer.
+        if (!counted) keys.try_emplace(std::move(key), 1);
         ids.insert(imported.id);
         movements.push_back(std::move(imported));
         ++result.added;
@@ -176,7 +197,7 @@ ImportResult merge(const Ledger& ledger, SharedList<Transaction>& movements, std
 }  // namespace
 
 ImportResult importTransactions(Ledger& ledger, std::vector<Transaction> transactions, std::string_view accountID,
-                                bool detectTransfers, const Calendar& calendar) {
+                                bool detectTransfers, const Calendar& calendar, RepeatedMovements repeated) {
     ImportResult result;
     if (transactions.empty()) return result;
     // Nothing could be filed on an unknown account: validation would refuse every movement.
@@ -186,7 +207,7 @@ ImportResult importTransactions(Ledger& ledger, std::vector<Transaction> transac
     }
     return ledger.change([&](LedgerData& data) {
         return merge(ledger, data.transactions, std::move(transactions), std::string(accountID), detectTransfers,
-                     calendar);
+                     calendar, repeated);
     });
 }
 

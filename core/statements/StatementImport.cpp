@@ -1,7 +1,10 @@
 #include "core/statements/StatementImport.hpp"
 
 #include "core/base/UserError.hpp"
+#include "core/statements/CAMTReader.hpp"
 #include "core/statements/CSVImporter.hpp"
+#include "core/statements/OFXReader.hpp"
+#include "core/statements/QIFReader.hpp"
 #include "core/statements/StatementFile.hpp"
 
 #include <utility>
@@ -63,10 +66,23 @@ StatementImport openStatementText(std::string_view text, const std::filesystem::
                                   const CSVImportOverrides& overrides,
                                   const std::vector<TransactionCategory>& categories, const Calendar& calendar) {
     StatementImport statement;
-    statement.separator = overrides.separator ? *overrides.separator : CSV::detectSeparator(text);
+    statement.format = detectStatementFormat(text);
+    if (statement.format != StatementFormat::csv) {
+        if (text.starts_with(utf8ByteOrderMark)) text.remove_prefix(utf8ByteOrderMark.size());
+        statement.rows = statement.format == StatementFormat::ofx   ? readOFX(text, calendar)
+                         : statement.format == StatementFormat::qif ? readQIF(text, calendar)
+                                                                    : readCAMT(text, calendar);
+        if (statement.rows.empty()) throw UserError(statementWithoutRowsMessage(file));
+        return statement;
+    }
+    const CSV::SeparatorGuess separator = CSV::guessSeparator(text);
+    statement.separator = overrides.separator ? *overrides.separator : separator.separator;
     statement.table = CSV::parse(text, statement.separator);
-    statement.guessedOptions = CSVImportOptions::guessed(statement.table);
+    CSVImportGuess guess = CSVImportGuess::of(statement.table);
+    statement.guessedOptions = guess.options;
     statement.options = overrides.appliedTo(statement.guessedOptions);
+    statement.guessedBy = rulesAfterChoices(std::move(guess.rules), statement.guessedOptions, statement.options);
+    statement.guessedBy["separator"] = overrides.separator ? "user" : separator.rule;
     statement.rows = CSVImporter::rows(statement.table, statement.options, categories, calendar);
     if (statement.rows.empty()) throw UserError(statementWithoutRowsMessage(file));
     return statement;

@@ -9,6 +9,7 @@
 #include "core/statements/CSV.hpp"
 #include "core/statements/CSVImportOptions.hpp"
 #include "core/statements/CSVImportRow.hpp"
+#include "core/statements/StatementFormat.hpp"
 
 #include <filesystem>
 #include <optional>
@@ -38,12 +39,15 @@ struct CSVImportOverrides {
     bool operator==(const CSVImportOverrides&) const = default;
 };
 
-// An opened statement. `rows` holds one result per data row, in table order.
+// An opened statement. `rows` holds one result per data row (per record for OFX, QIF and
+// CAMT), in file order. The separator, table and options belong to CSV and stay empty otherwise.
 struct StatementImport {
+    StatementFormat format = StatementFormat::csv;  // detected from the content
     char separator = ',';  // chosen by the user or detected
     CSV::Table table;
     CSVImportOptions guessedOptions;
     CSVImportOptions options;  // the guess with the user's choices over it, as the rows were read
+    CSVGuessRules guessedBy;   // the rule behind each option and the separator, "user" for a choice
     std::vector<CSVImportRow> rows;
 
     // The movements of the rows that could be read, in table order; the second form moves them
@@ -54,8 +58,9 @@ struct StatementImport {
     [[nodiscard]] std::vector<const CSVImportRow*> problems() const;
 };
 
-// Reads the file (see readStatementText) and turns it into rows under the guessed options and
-// the user's choices. `categories` (built-in and custom) recognise the category column by name;
+// Reads the file (see readStatementText), tells its format from the content and turns it into
+// rows; for CSV under the guessed options and the user's choices, which other formats ignore.
+// `categories` (built-in and custom) recognise the category column by name;
 // dates are noon of their day in `calendar`. Throws StatementFileError, and UserError with
 // statementWithoutRowsMessage when no data row is left.
 [[nodiscard]] StatementImport openStatement(const std::filesystem::path& file, const CSVImportOverrides& overrides,

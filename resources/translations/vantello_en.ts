@@ -574,5 +574,29 @@
             <source>Non riesco a salvare i movimenti: {reason}</source>
             <translation>Cannot save the transactions: {reason}</translation>
         </message>
+        <message>
+            <source>Il file non è XML valido dalla riga {line} ({reason}): il resto non viene letto.</source>
+            <translation>The file is not valid XML from line {line} ({reason}): the rest is not read.</translation>
+        </message>
+        <message>
+            <source>Non si sa se è un'entrata o un'uscita (CdtDbtInd «{text}»).</source>
+            <translation>Not known whether it is income or an expense (CdtDbtInd «{text}»).</translation>
+        </message>
+        <message>
+            <source>Movimento non ancora contabilizzato (stato «{status}»): non viene importato.</source>
+            <translation>Transaction not booked yet (status «{status}»): it is not imported.</translation>
+        </message>
+        <message>
+            <source>Importo in {currency}, non in euro: il movimento non viene importato.</source>
+            <translation>Amount in {currency}, not in euro: the transaction is not imported.</translation>
+        </message>
+        <message>
+            <source>Movimento non contabilizzato: «{text}»</source>
+            <translation>Transaction not booked: «{text}»</translation>
+        </message>
+        <message>
+            <source>Riga di saldo, non un movimento: «{text}»</source>
+            <translation>Balance line, not a transaction: «{text}»</translation>
+        </message>
     </context>
 </TS>

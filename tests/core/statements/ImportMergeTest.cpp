@@ -60,7 +60,23 @@ TEST_F(ImportMerge, DuplicatesIgnoreTimeOfDayAndCaseOfTheNote) {
                                   movement(TransactionKind::expense, "30", at(2024, 3, 6, 0), "Pizzeria da Gino"),
                                   movement(TransactionKind::expense, "30.00", at(2024, 3, 6, 8), "pizzeria DA gino")});
     // Accents count; the next day is added and its twin in the same file skipped.
-    EXPECT_EQ(result, (Result{0, 2, 3, 0}));
+    EXPECT_EQ(result, (Result{0, 2, 3, 0, 1}));
+}
+
+TEST_F(ImportMerge, RepeatedMovementsAreOneDuplicateUnlessCounted) {
+    const auto ticket = [] { return movement(TransactionKind::expense, "2.2", at(2024, 3, 5, 8), "Biglietto tram"); };
+    const std::vector<Transaction> twoTickets{ticket(), ticket()};
+    EXPECT_EQ(import(twoTickets), (Result{0, 1, 1, 0, 1}));
+
+    ledger = Ledger();
+    const auto counted = [&](std::vector<Transaction> rows) {
+        return importTransactions(ledger, std::move(rows), mainAccountID, true, rome(), RepeatedMovements::counted);
+    };
+    EXPECT_EQ(counted(twoTickets), (Result{0, 2, 0, 0, 1}));
+    EXPECT_EQ(counted({ticket(), ticket()}), (Result{0, 0, 2, 0, 1}));
+    // Three in the file, two in the ledger: one more.
+    EXPECT_EQ(counted({ticket(), ticket(), ticket()}), (Result{0, 1, 2, 0, 2}));
+    EXPECT_EQ(ledger.transactions().size(), 3u);
 }
 
 TEST_F(ImportMerge, OppositeMovementOnAnotherAccountWithinThreeDaysBecomesTransfer) {

@@ -64,12 +64,16 @@ CSVImportRow statementRow(const StatementRecord& record, const StatementSource& 
 }
 
 std::optional<Decimal> plainAmount(std::string_view text) {
-    std::string canonical(Text::trimmedView(text));
-    if (!canonical.empty() && canonical.front() == '+') canonical.erase(0, 1);
-    for (char& c : canonical) {
-        if (c == ',') c = '.';
+    std::string_view rest = Text::trimmedView(text);
+    if (rest.starts_with('+')) rest.remove_prefix(1);
+    std::string canonical;
+    canonical.reserve(rest.size() + 2);
+    if (rest.starts_with('-')) {
+        canonical.push_back('-');
+        rest.remove_prefix(1);
     }
-    if (canonical.starts_with('.') || canonical.starts_with("-.")) canonical.insert(canonical.find('.'), "0");
+    if (rest.starts_with('.') || rest.starts_with(',')) canonical.push_back('0');
+    for (const char c : rest) canonical.push_back(c == ',' ? '.' : c);
     if (canonical.ends_with('.')) canonical.pop_back();
     return Decimal::fromCanonicalAmount(canonical);
 }

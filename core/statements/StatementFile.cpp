@@ -149,10 +149,15 @@ std::string readStatementText(const std::filesystem::path& path) {
     } catch (const FileError& error) {
         throw StatementFileError(path, error);
     }
-    auto text = utf8Text(bytes);
+    auto text = decodeStatementBytes(bytes);
     if (!text) throw StatementFileError(path);
-    dropTrailingPadding(*text);
     return std::move(*text);
+}
+
+std::optional<std::string> decodeStatementBytes(std::string_view bytes) {
+    auto text = utf8Text(bytes);
+    if (text) dropTrailingPadding(*text);
+    return text;
 }
 
 std::string statementWithoutRowsMessage(const std::filesystem::path& path) {

@@ -156,7 +156,13 @@ std::string readStatementText(const std::filesystem::path& path) {
 
 std::optional<std::string> decodeStatementBytes(std::string_view bytes) {
     auto text = utf8Text(bytes);
-    if (text) dropTrailingPadding(*text);
+    if (!text) return text;
+    // A file saved again by a tool that adds its own mark starts with two; the text has none.
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    std::size_t marks = 0;
+    while (std::string_view(*text).substr(marks).starts_with(mark)) marks += mark.size();
+    text->erase(0, marks);
+    dropTrailingPadding(*text);
     return text;
 }
 

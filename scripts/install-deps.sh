@@ -9,6 +9,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
+  clang
   python3 tzdata
 )
 

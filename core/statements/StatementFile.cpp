@@ -149,10 +149,21 @@ std::string readStatementText(const std::filesystem::path& path) {
     } catch (const FileError& error) {
         throw StatementFileError(path, error);
     }
-    auto text = utf8Text(bytes);
+    auto text = decodeStatementBytes(bytes);
     if (!text) throw StatementFileError(path);
-    dropTrailingPadding(*text);
     return std::move(*text);
+}
+
+std::optional<std::string> decodeStatementBytes(std::string_view bytes) {
+    auto text = utf8Text(bytes);
+    if (!text) return text;
+    // A file saved again by a tool that adds its own mark starts with two; the text has none.
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    std::size_t marks = 0;
+    while (std::string_view(*text).substr(marks).starts_with(mark)) marks += mark.size();
+    text->erase(0, marks);
+    dropTrailingPadding(*text);
+    return text;
 }
 
 std::string statementWithoutRowsMessage(const std::filesystem::path& path) {

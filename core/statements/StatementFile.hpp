@@ -6,6 +6,7 @@
 #include "core/base/UserError.hpp"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,9 @@ private:
 // The file's text in UTF-8 without a byte-order mark. Padding after the last line (NUL bytes,
 // the old end-of-file mark 0x1A, blanks) is dropped. Throws StatementFileError.
 [[nodiscard]] std::string readStatementText(const std::filesystem::path& path);
+
+// The same for bytes already read: their text, or nothing when no encoding above reads them.
+[[nodiscard]] std::optional<std::string> decodeStatementBytes(std::string_view bytes);
 
 // What the import says when the file yields no data row: "«estratto.csv» non contiene righe
 // da importare."

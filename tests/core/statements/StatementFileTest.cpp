@@ -47,6 +47,10 @@ TEST_F(StatementFile, UnicodeWithByteOrderMarks) {
     EXPECT_EQ(readBack(little), expected);
     EXPECT_EQ(readBack(big), expected);
     EXPECT_EQ(readBack(bomless), expected);
+    // A mark repeated by a second editor, written in the file's own encoding, goes as well.
+    EXPECT_EQ(readBack("\xEF\xBB\xBF\xEF\xBB\xBF" + expected), expected);
+    EXPECT_EQ(readBack("\xFF\xFE" + little), expected);
+    EXPECT_EQ(readBack("\xFE\xFF" + big), expected);
 }
 
 TEST_F(StatementFile, PaddingAfterTheLastLineIsDropped) {

@@ -1,0 +1,14 @@
+// The CAMT statement reader never throws: text it cannot read gives problem rows or none.
+#include "core/statements/CAMTReader.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+using namespace vantello;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const Calendar calendar("Europe/Rome");
+    (void)readCAMT({reinterpret_cast<const char*>(data), size}, calendar);
+    return 0;
+}

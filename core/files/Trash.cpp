@@ -31,8 +31,8 @@ std::string candidateName(const std::string& name, int attempt) {
     return attempt == 1 ? name : name + " " + std::to_string(attempt);
 }
 
-// Claims a name by creating its info file exclusively, as the specification of the Trash asks;
-// returns the name, with the record written.
+// Claims a name by creating its info file exclusively, so that two programs trashing at once never
+// take the same name; returns the name, with the record written.
 std::string claimName(const fs::path& trash, const std::string& name, const std::string& record) {
     for (int attempt = 1;; ++attempt) {
         const std::string candidate = candidateName(name, attempt);

@@ -9,6 +9,7 @@ The layers, bottom to top, and what each may include besides itself:
     core/statements  base, ledger
     core/rates       base
     core/analysis    base, ledger
+    core/planning    base, ledger, analysis
     cli              every core layer
     app library      every core layer (app/model, app/settings, app/notifications)
     app screens      every core layer and the app library (app/screens, app/main.cpp)
@@ -24,7 +25,7 @@ import re
 import sys
 import tempfile
 
-CORE = ["core/base", "core/ledger", "core/files", "core/statements", "core/rates", "core/analysis"]
+CORE = ["core/base", "core/ledger", "core/files", "core/statements", "core/rates", "core/analysis", "core/planning"]
 APP_LIBRARY = ["app/model", "app/settings", "app/notifications"]
 
 # Each layer: the folders (or files) it owns and the folders it may include from.
@@ -35,6 +36,7 @@ LAYERS = {
     "core/statements": ["core/base", "core/ledger", "core/statements"],
     "core/rates": ["core/base", "core/rates"],
     "core/analysis": ["core/base", "core/ledger", "core/analysis"],
+    "core/planning": ["core/base", "core/ledger", "core/analysis", "core/planning"],
     "cli": CORE + ["cli"],
     **{folder: CORE + APP_LIBRARY for folder in APP_LIBRARY},
     "app/screens": CORE + APP_LIBRARY + ["app/screens"],

@@ -6,6 +6,12 @@
 
 namespace vantello {
 
+Decimal SavingsGoal::saved() const {
+    Decimal sum;
+    for (const Contribution& contribution : contributions) sum += contribution.amount;
+    return sum;
+}
+
 const auto savingsGoalContributionFields = std::tuple{
     JsonFields::required("id", &SavingsGoal::Contribution::id),
     JsonFields::required("date", &SavingsGoal::Contribution::date),

@@ -29,6 +29,9 @@ struct SavingsGoal {
     Instant createdAt;
     std::vector<Contribution> contributions;
 
+    // Deposits minus withdrawals, from zero.
+    [[nodiscard]] Decimal saved() const;
+
     bool operator==(const SavingsGoal&) const = default;
 };
 

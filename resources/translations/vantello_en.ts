@@ -598,5 +598,25 @@
             <source>Riga di saldo, non un movimento: «{text}»</source>
             <translation>Balance line, not a transaction: «{text}»</translation>
         </message>
+        <message>
+            <source>Scrivi un nome per l'obiettivo.</source>
+            <translation>Enter a name for the goal.</translation>
+        </message>
+        <message>
+            <source>La cifra da raggiungere deve essere maggiore di zero.</source>
+            <translation>The amount to reach must be greater than zero.</translation>
+        </message>
+        <message>
+            <source>Il versamento non può essere zero.</source>
+            <translation>The deposit cannot be zero.</translation>
+        </message>
+        <message>
+            <source>Non puoi ritirare più di quanto hai messo da parte.</source>
+            <translation>You cannot withdraw more than you have saved.</translation>
+        </message>
+        <message>
+            <source>L'obiettivo non esiste più.</source>
+            <translation>The goal no longer exists.</translation>
+        </message>
     </context>
 </TS>

@@ -1,5 +1,7 @@
 #include "core/planning/GoalProgress.hpp"
 
+#include "core/base/Localization.hpp"
+
 #include <algorithm>
 #include <cmath>
 
@@ -50,6 +52,17 @@ GoalProgress goalProgress(const SavingsGoal& goal, Instant now, const Calendar& 
         result.projectedReachDate = dateReachedAtPace(result.remaining, result.monthlyPace, now, calendar);
     }
     return result;
+}
+
+std::string goalStatusLabel(GoalStatus status) {
+    switch (status) {
+        case GoalStatus::completed: return L10n::tr("Raggiunto");
+        case GoalStatus::noDeadline: return L10n::tr("Senza scadenza");
+        case GoalStatus::onTrack: return L10n::tr("In linea");
+        case GoalStatus::behind: return L10n::tr("In ritardo");
+        case GoalStatus::overdue: return L10n::tr("Scaduto");
+    }
+    return {};
 }
 
 void to_json(Json& json, GoalStatus status) {

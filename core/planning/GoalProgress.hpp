@@ -9,6 +9,7 @@
 #include "core/ledger/SavingsGoal.hpp"
 
 #include <optional>
+#include <string>
 
 namespace vantello {
 
@@ -33,6 +34,9 @@ struct GoalProgress {
 // double precision); none when `perMonth` is not positive.
 [[nodiscard]] std::optional<Instant> dateReachedAtPace(const Decimal& remaining, const Decimal& perMonth, Instant now,
                                                        const Calendar& calendar);
+
+// The status as the goal card names it ("In linea", "In ritardo"…).
+[[nodiscard]] std::string goalStatusLabel(GoalStatus status);
 
 void to_json(Json& json, GoalStatus status);
 void to_json(Json& json, const GoalProgress& progress);

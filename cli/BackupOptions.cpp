@@ -16,8 +16,6 @@ std::optional<BackupOwner> backupOwner(const Arguments& arguments) {
     return std::nullopt;
 }
 
-Instant clockNow() { return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()); }
-
 Json backupJson(const BackupInfo& backup) {
     return {{"name", backup.name()},
             {"folder", backup.folder.string()},

@@ -1,7 +1,7 @@
 #pragma once
 // What the backup commands share: the backup folder ("--folder DIR", else "Backup" in the root
 // data folder), whose data they copy (the profile chosen with --profile, else the user's own),
-// the clock, and how a backup is printed.
+// and how a backup is printed.
 
 #include "cli/Arguments.hpp"
 #include "core/base/Instant.hpp"
@@ -15,7 +15,6 @@ namespace vantello::cli {
 
 [[nodiscard]] BackupStore backupStore(const Arguments& arguments);
 [[nodiscard]] std::optional<BackupOwner> backupOwner(const Arguments& arguments);
-[[nodiscard]] Instant clockNow();
 
 [[nodiscard]] Json backupJson(const BackupInfo& backup);
 // "Vantello 2025-03-01 10.00.00  (Mario Rossi)" with the folder on the next line.

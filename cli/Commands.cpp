@@ -7,13 +7,20 @@
 #include "cli/BackupsCommand.hpp"
 #include "cli/CheckCommand.hpp"
 #include "cli/ExportCommand.hpp"
+#include "cli/GoalsCommand.hpp"
 #include "cli/DetachCommand.hpp"
 #include "cli/ImportCommand.hpp"
+#include "cli/LoanCommand.hpp"
+#include "cli/LoansCommand.hpp"
+#include "cli/NetWorthCommand.hpp"
 #include "cli/ProfilesCommand.hpp"
 #include "cli/RatesCommand.hpp"
 #include "cli/ReportCommand.hpp"
 #include "cli/RestoreCommand.hpp"
+#include "cli/ScenarioCommand.hpp"
 #include "cli/SearchCommand.hpp"
+#include "cli/WorkCommand.hpp"
+#include "cli/SubscriptionsCommand.hpp"
 
 #include <cstddef>
 #include <string>
@@ -34,6 +41,12 @@ constexpr const char* usage =
     "  rates        mostra il cambio della BCE di una valuta in un giorno e converte un importo\n"
     "  search       cerca nei movimenti per testo e condizioni; usa o salva le ricerche salvate\n"
     "  alerts       mostra gli avvisi di oggi o ne ignora uno per sempre\n"
+    "  loan         calcola la rata e il piano di ammortamento di un prestito\n"
+    "  loans        i prestiti: rata, capitale da restituire, rate pagate e rimaste\n"
+    "  networth     il patrimonio netto di oggi e a fine mese nei mesi precedenti\n"
+    "  work         periodi senza lavoro, ultimo stipendio, prossimo promemoria dello stipendio\n"
+    "  subscriptions  abbonamenti trovati nei movimenti: elenca, ignora, rende ricorrenti\n"
+    "  scenario     e se...? il mese medio con le modifiche, i risparmi e gli obiettivi\n"
     "  report       riepilogo di un mese: totali, categorie, budget, stima a fine mese, avvisi\n"
     "  attach       allega un file a un movimento\n"
     "  detach       toglie un allegato da un movimento ed elimina il file\n"
@@ -41,6 +54,7 @@ constexpr const char* usage =
     "  backups      elenca i backup, dal più recente\n"
     "  restore      ripristina un backup, dopo averne fatto uno della situazione attuale\n"
     "  profiles     elenca, aggiunge, rinomina ed elimina le gestioni (persone e famiglie)\n"
+    "  goals        gli obiettivi di risparmio: quanto manca, quanto al mese, quando li raggiungi\n"
     "\n"
     "Opzioni:\n"
     "  --help               mostra questo aiuto\n"
@@ -93,6 +107,12 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
     if (command == "rates") return runRates(rest, out, err);
     if (command == "search") return runSearch(rest, out, err);
     if (command == "alerts") return runAlerts(rest, out, err);
+    if (command == "loan") return runLoan(rest, out, err);
+    if (command == "loans") return runLoans(rest, out, err);
+    if (command == "networth") return runNetWorth(rest, out, err);
+    if (command == "work") return runWork(rest, out, err);
+    if (command == "subscriptions") return runSubscriptions(rest, out, err);
+    if (command == "scenario") return runScenario(rest, out, err);
     if (command == "report") return runReport(rest, out, err);
     if (command == "attach") return runAttach(rest, out, err);
     if (command == "detach") return runDetach(rest, out, err);
@@ -100,6 +120,7 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
     if (command == "backups") return runBackups(rest, out, err);
     if (command == "restore") return runRestore(rest, out, err);
     if (command == "profiles") return runProfiles(rest, out, err);
+    if (command == "goals") return runGoals(rest, out, err);
     err << "Comando sconosciuto: " << command << "\n\n" << usage;
     return 2;
 }

@@ -47,7 +47,7 @@ std::optional<CivilDate> monthOption(std::string_view text) {
 
 Instant nowFromArguments(const Arguments& arguments, const Calendar& calendar) {
     if (const auto today = arguments.value("--today")) return noonOfDayOption("--today", *today, calendar);
-    return std::chrono::time_point_cast<std::chrono::seconds>(std::chrono::system_clock::now());
+    return clockNow();
 }
 
 }  // namespace vantello::cli

@@ -247,8 +247,6 @@ void printEveryMonth(const Ledger& ledger, const std::vector<MonthCategoryTotals
     }
 }
 
-Instant clockNow() { return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()); }
-
 }  // namespace
 
 int runReport(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {

@@ -28,4 +28,9 @@ struct CivilDate {
 }
 [[nodiscard]] inline long long unixSeconds(Instant moment) { return moment.time_since_epoch().count(); }
 
+// The system clock's moment, to the second.
+[[nodiscard]] inline Instant clockNow() {
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
 }  // namespace vantello

@@ -28,8 +28,7 @@ public:
     // Creates the folder when missing (FileError when it cannot). DataFolderError locked when
     // another holder, in this process or another, has the folder. Once it holds the folder it
     // clears what writers killed half-way left: temporary files, and a restore it finishes or
-    // undoes (FileError, and no lock, when that fails). Once it holds the folder, it
-    // removes the temporary files that interrupted writes left there.
+    // undoes (FileError, and no lock, when that fails).
     explicit DataFolderLock(const std::filesystem::path& folder);
     DataFolderLock(const DataFolderLock&) = delete;
     DataFolderLock& operator=(const DataFolderLock&) = delete;

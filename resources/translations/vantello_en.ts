@@ -618,5 +618,576 @@
             <source>L'obiettivo non esiste più.</source>
             <translation>The goal no longer exists.</translation>
         </message>
+        <message>
+            <source>Raggiunto</source>
+            <translation>Reached</translation>
+        </message>
+        <message>
+            <source>Senza scadenza</source>
+            <translation>No deadline</translation>
+        </message>
+        <message>
+            <source>In linea</source>
+            <translation>On track</translation>
+        </message>
+        <message>
+            <source>In ritardo</source>
+            <translation>Behind</translation>
+        </message>
+        <message>
+            <source>Scaduto</source>
+            <translation>Overdue</translation>
+        </message>
+        <message>
+            <source>C'è già un periodo di disoccupazione in corso.</source>
+            <translation>There is already a period of unemployment in progress.</translation>
+        </message>
+        <message>
+            <source>La fine del periodo deve venire dopo l'inizio.</source>
+            <translation>The end of the period must come after its start.</translation>
+        </message>
+        <message>
+            <source>Il periodo si sovrappone a un altro periodo di disoccupazione.</source>
+            <translation>The period overlaps another period of unemployment.</translation>
+        </message>
+        <message>
+            <source>Scrivi un nome, per esempio Auto o Mutuo casa.</source>
+            <translation>Enter a name, for example Car or Home mortgage.</translation>
+        </message>
+        <message>
+            <source>Controlla capitale, tasso e numero di rate: devono essere maggiori di zero (il tasso può essere zero).</source>
+            <translation>Check the principal, the rate and the number of instalments: they must be greater than zero (the rate may be zero).</translation>
+        </message>
+        <message>
+            <source>Il valore non può essere negativo.</source>
+            <translation>The value cannot be negative.</translation>
+        </message>
+        <message>
+            <source>è fuori dall'intervallo</source>
+            <translation>is out of range</translation>
+        </message>
+        <message>
+            <source>Questo abbonamento non è tra quelli trovati.</source>
+            <translation>This subscription is not among those found.</translation>
+        </message>
+        <message>
+            <source>Questo abbonamento è già un movimento ricorrente.</source>
+            <translation>This subscription is already a recurring transaction.</translation>
+        </message>
+        <message>
+            <source>Valore non valido per {opzione}: «{valore}» ({atteso}).</source>
+            <translation>Invalid value for {opzione}: “{valore}” ({atteso}).</translation>
+        </message>
+        <message>
+            <source>serve una percentuale come -10 o 15, non sotto -100</source>
+            <translation>a percentage such as -10 or 15 is needed, not below -100</translation>
+        </message>
+        <message>
+            <source>serve ID=PERCENTUALE, per esempio spesa=-10</source>
+            <translation>ID=PERCENT is needed, for example spesa=-10</translation>
+        </message>
+        <message>
+            <source>serve un importo come 12,50</source>
+            <translation>an amount such as 12,50 is needed</translation>
+        </message>
+        <message>
+            <source>entrate {entrate}, uscite {uscite}, risparmio {risparmio}</source>
+            <translation>income {entrate}, expenses {uscite}, savings {risparmio}</translation>
+        </message>
+        <message>
+            <source>già raggiunto</source>
+            <translation>already reached</translation>
+        </message>
+        <message>
+            <source>non a questo ritmo</source>
+            <translation>not at this pace</translation>
+        </message>
+        <message>
+            <source>Mese medio ({mesi} mesi): {mese}</source>
+            <translation>Average month ({mesi} months): {mese}</translation>
+        </message>
+        <message>
+            <source>Con le modifiche: {mese}</source>
+            <translation>With the changes: {mese}</translation>
+        </message>
+        <message>
+            <source>Risparmi accumulati, senza e con le modifiche:</source>
+            <translation>Savings accumulated, without and with the changes:</translation>
+        </message>
+        <message>
+            <source>Obiettivo «{nome}»: senza modifiche {prima}, con le modifiche {dopo}</source>
+            <translation>Goal “{nome}”: without changes {prima}, with the changes {dopo}</translation>
+        </message>
+        <message>
+            <source>Servono i movimenti di almeno un mese completo per simulare.</source>
+            <translation>At least one complete month of transactions is needed to simulate.</translation>
+        </message>
+        <message>
+            <source>Uso: vantello-cli scenario [--category ID=PERCENTUALE]... [--income PERCENTUALE]
+                           [--monthly-expense IMPORTO] [--today AAAA-MM-GG] [--json]
+                           [--data-dir CARTELLA]
+
+Parte dal mese medio degli ultimi tre mesi completi, applica le modifiche e mostra entrate e
+uscite al mese, i risparmi accumulati nei prossimi dodici mesi e quando raggiungeresti ogni
+obiettivo, con e senza le modifiche. Le percentuali si scrivono come -10 (10 % in meno) o 15.
+
+  --category ID=PERCENTUALE   cambia le uscite di una categoria (anche più volte)
+  --income PERCENTUALE        cambia le entrate
+  --monthly-expense IMPORTO   aggiunge una spesa fissa al mese, scritta come 12,50
+  --today AAAA-MM-GG          il giorno da prendere come oggi, invece dell'orologio
+  --json                      scrive il risultato come JSON
+  --data-dir CARTELLA         usa questa cartella invece di quella dell'applicazione
+</source>
+            <translation>Usage: vantello-cli scenario [--category ID=PERCENT]... [--income PERCENT]
+                             [--monthly-expense AMOUNT] [--today YYYY-MM-DD] [--json]
+                             [--data-dir FOLDER]
+
+Starts from the average month of the last three complete months, applies the changes and shows
+monthly income and expenses, the savings accumulated over the next twelve months and when each
+goal would be reached, with and without the changes. Percentages are written as -10 (10 % less)
+or 15.
+
+  --category ID=PERCENT       changes the expenses of a category (may be repeated)
+  --income PERCENT            changes the income
+  --monthly-expense AMOUNT    adds a fixed monthly expense, written as 12,50
+  --today YYYY-MM-DD          the day to take as today, instead of the clock
+  --json                      writes the result as JSON
+  --data-dir FOLDER           uses this folder instead of the application's
+</translation>
+        </message>
+        <message>
+            <source>settimanale</source>
+            <translation>weekly</translation>
+        </message>
+        <message>
+            <source>mensile</source>
+            <translation>monthly</translation>
+        </message>
+        <message>
+            <source>annuale</source>
+            <translation>yearly</translation>
+        </message>
+        <message>
+            <source>{nome}: {importo} {frequenza} (al mese {mese}, all'anno {anno})</source>
+            <translation>{nome}: {importo} {frequenza} ({mese} a month, {anno} a year)</translation>
+        </message>
+        <message>
+            <source>prezzo aumentato, prima {importo}</source>
+            <translation>price increased, before {importo}</translation>
+        </message>
+        <message>
+            <source>{numero} addebiti, l'ultimo il {ultimo}, il prossimo verso il {prossimo}</source>
+            <translation>{numero} charges, the latest on {ultimo}, the next around {prossimo}</translation>
+        </message>
+        <message>
+            <source>già un movimento ricorrente</source>
+            <translation>already a recurring transaction</translation>
+        </message>
+        <message>
+            <source>chiave: {chiave}</source>
+            <translation>key: {chiave}</translation>
+        </message>
+        <message>
+            <source>Nessun abbonamento trovato</source>
+            <translation>No subscriptions found</translation>
+        </message>
+        <message>
+            <source>Abbonamenti: {numero}</source>
+            <translation>Subscriptions: {numero}</translation>
+        </message>
+        <message>
+            <source>«{nome}» non verrà più proposto come abbonamento.</source>
+            <translation>“{nome}” will no longer be suggested as a subscription.</translation>
+        </message>
+        <message>
+            <source>Movimento ricorrente creato: «{nome}», {importo} {frequenza} dal {data}.</source>
+            <translation>Recurring transaction created: “{nome}”, {importo} {frequenza} from {data}.</translation>
+        </message>
+        <message>
+            <source>Argomento inatteso: {testo}</source>
+            <translation>Unexpected argument: {testo}</translation>
+        </message>
+        <message>
+            <source>Azione sconosciuta: {testo} (list, ignore oppure recurring).</source>
+            <translation>Unknown action: {testo} (list, ignore or recurring).</translation>
+        </message>
+        <message>
+            <source>Manca la chiave dell'abbonamento.</source>
+            <translation>The subscription's key is missing.</translation>
+        </message>
+        <message>
+            <source>--json vale solo per l'elenco degli abbonamenti.</source>
+            <translation>--json applies only to the list of subscriptions.</translation>
+        </message>
+        <message>
+            <source>Uso: vantello-cli subscriptions [list] [--json] [--data-dir CARTELLA]
+     vantello-cli subscriptions ignore CHIAVE [--data-dir CARTELLA]
+     vantello-cli subscriptions recurring CHIAVE [--data-dir CARTELLA]
+
+Elenca le spese con la stessa descrizione e un importo simile che tornano ogni settimana,
+mese o anno (servono almeno tre addebiti, due per quelli annuali), con il costo al mese e
+all'anno e gli aumenti di prezzo. Con ignore l'abbonamento con quella chiave non viene più
+proposto; con recurring diventa un movimento ricorrente dal prossimo addebito previsto.
+
+  --json                 scrive gli abbonamenti come JSON
+  --data-dir CARTELLA    usa questa cartella invece di quella dell'applicazione
+</source>
+            <translation>Usage: vantello-cli subscriptions [list] [--json] [--data-dir FOLDER]
+       vantello-cli subscriptions ignore KEY [--data-dir FOLDER]
+       vantello-cli subscriptions recurring KEY [--data-dir FOLDER]
+
+Lists the expenses with the same description and a similar amount that come back every week,
+month or year (at least three charges are needed, two for yearly ones), with their monthly and
+yearly cost and price increases. With ignore the subscription with that key is no longer
+suggested; with recurring it becomes a recurring transaction from its next expected charge.
+
+  --json                 writes the subscriptions as JSON
+  --data-dir FOLDER      uses this folder instead of the application's
+</translation>
+        </message>
+        <message>
+            <source>Manca {opzione}.</source>
+            <translation>{opzione} is missing.</translation>
+        </message>
+        <message>
+            <source>serve un importo come 100.000 o 100000,50</source>
+            <translation>an amount such as 100.000 or 100000,50 is needed</translation>
+        </message>
+        <message>
+            <source>serve un tasso in percento come 3,5</source>
+            <translation>a rate in percent such as 3,5 is needed</translation>
+        </message>
+        <message>
+            <source>Rata mensile: {rata}, interessi in tutto: {interessi}</source>
+            <translation>Monthly instalment: {rata}, total interest: {interessi}</translation>
+        </message>
+        <message>
+            <source>rata  data        importo  interessi  capitale  residuo</source>
+            <translation>no.   date        amount   interest   capital   remaining</translation>
+        </message>
+        <message>
+            <source>Azione sconosciuta: {testo} (c'è solo schedule).</source>
+            <translation>Unknown action: {testo} (there is only schedule).</translation>
+        </message>
+        <message>
+            <source>Uso: vantello-cli loan schedule --principal IMPORTO --rate TASSO --months N [--start AAAA-MM-GG] [--json]
+
+Calcola la rata mensile e il piano di ammortamento (alla francese) di un prestito.
+
+  --principal IMPORTO    il capitale preso in prestito, per esempio 100.000 o 100000,50
+  --rate TASSO           il tasso annuo in percento, per esempio 3,5 (0 senza interessi)
+  --months N             il numero di rate mensili
+  --start AAAA-MM-GG     il giorno della prima rata (oggi se manca)
+  --json                 scrive la rata e il piano come JSON
+</source>
+            <translation>Usage: vantello-cli loan schedule --principal AMOUNT --rate RATE --months N [--start YYYY-MM-DD] [--json]
+
+Works out the monthly instalment and the repayment plan (French amortisation) of a loan.
+
+  --principal AMOUNT     the capital borrowed, for example 100.000 or 100000,50
+  --rate RATE            the yearly rate in percent, for example 3,5 (0 without interest)
+  --months N             the number of monthly instalments
+  --start YYYY-MM-DD     the day of the first instalment (today when missing)
+  --json                 writes the instalment and the plan as JSON
+</translation>
+        </message>
+        <message>
+            <source>{nome}: rata {rata}, da restituire {residuo}, rate pagate {pagate} di {rate}, interessi in tutto {interessi}, ultima rata il {ultima}</source>
+            <translation>{nome}: instalment {rata}, still owed {residuo}, {pagate} of {rate} instalments paid, total interest {interessi}, last instalment on {ultima}</translation>
+        </message>
+        <message>
+            <source>Prestiti: {numero}</source>
+            <translation>Loans: {numero}</translation>
+        </message>
+        <message>
+            <source>Uso: vantello-cli loans [--today AAAA-MM-GG] [--json] [--data-dir CARTELLA]
+
+Elenca i prestiti e i mutui con la rata, il capitale ancora da restituire, le rate pagate e
+quelle che restano, gli interessi in tutto e la data dell'ultima rata.
+
+  --today AAAA-MM-GG     il giorno da prendere come oggi, invece dell'orologio
+  --json                 scrive i prestiti come JSON
+  --data-dir CARTELLA    usa questa cartella invece di quella dell'applicazione
+</source>
+            <translation>Usage: vantello-cli loans [--today YYYY-MM-DD] [--json] [--data-dir FOLDER]
+
+Lists the loans and mortgages with the instalment, the capital still owed, the instalments paid
+and those left, the total interest and the date of the last instalment.
+
+  --today YYYY-MM-DD     the day to take as today, instead of the clock
+  --json                 writes the loans as JSON
+  --data-dir FOLDER      uses this folder instead of the application's
+</translation>
+        </message>
+        <message>
+            <source>Patrimonio netto: {totale} (conti {conti}, beni {beni}, debiti {debiti})</source>
+            <translation>Net worth: {totale} (accounts {conti}, assets {beni}, debts {debiti})</translation>
+        </message>
+        <message>
+            <source>Uso: vantello-cli networth [--months N] [--today AAAA-MM-GG] [--json] [--data-dir CARTELLA]
+
+Mostra il patrimonio netto di oggi (saldi dei conti più il valore dei beni meno il capitale
+ancora dovuto sui prestiti) e la sua storia: la fine di ognuno dei mesi precedenti, poi oggi.
+
+  --months N             quanti mesi, compreso quello in corso (12 se manca)
+  --today AAAA-MM-GG     il giorno da prendere come oggi, invece dell'orologio
+  --json                 scrive il patrimonio e la storia come JSON
+  --data-dir CARTELLA    usa questa cartella invece di quella dell'applicazione
+</source>
+            <translation>Usage: vantello-cli networth [--months N] [--today YYYY-MM-DD] [--json] [--data-dir FOLDER]
+
+Shows today's net worth (the account balances plus the value of the assets minus the capital
+still owed on loans) and its history: the end of each of the months before, then today.
+
+  --months N             how many months, the current one included (12 when missing)
+  --today YYYY-MM-DD     the day to take as today, instead of the clock
+  --json                 writes the net worth and its history as JSON
+  --data-dir FOLDER      uses this folder instead of the application's
+</translation>
+        </message>
+        <message>
+            <source>serve un numero intero da {minimo} a {massimo}</source>
+            <translation>a whole number from {minimo} to {massimo} is needed</translation>
+        </message>
+        <message>
+            <source>--reminder-hour vale solo insieme a --reminder-day.</source>
+            <translation>--reminder-hour works only together with --reminder-day.</translation>
+        </message>
+        <message>
+            <source>Senza lavoro dal {inizio} al {fine}</source>
+            <translation>Without work from {inizio} to {fine}</translation>
+        </message>
+        <message>
+            <source>Senza lavoro dal {inizio}, in corso</source>
+            <translation>Without work since {inizio}, in progress</translation>
+        </message>
+        <message>
+            <source>Oggi sei senza lavoro.</source>
+            <translation>Today you are without work.</translation>
+        </message>
+        <message>
+            <source>Ultimo stipendio: {importo} il {giorno}</source>
+            <translation>Last salary: {importo} on {giorno}</translation>
+        </message>
+        <message>
+            <source>Nessuno stipendio registrato.</source>
+            <translation>No salary recorded.</translation>
+        </message>
+        <message>
+            <source>Lo stipendio di questo mese è registrato.</source>
+            <translation>This month's salary is recorded.</translation>
+        </message>
+        <message>
+            <source>Lo stipendio di questo mese non è ancora registrato.</source>
+            <translation>This month's salary is not recorded yet.</translation>
+        </message>
+        <message>
+            <source>Uso: vantello-cli work [--reminder-day G [--reminder-hour H]] [--today AAAA-MM-GG] [--json]
+                       [--data-dir CARTELLA]
+
+Mostra i periodi di disoccupazione, quello in corso, l'ultimo stipendio e se quello del mese
+è già registrato. Con --reminder-day dice anche quando scatterebbe il promemoria dello
+stipendio con quel giorno e quell'ora.
+
+  --reminder-day G       il giorno del mese del promemoria, da 1 a 31
+  --reminder-hour H      l'ora del promemoria, da 0 a 23 (9 se manca)
+  --today AAAA-MM-GG     il giorno da prendere come oggi, invece dell'orologio
+  --json                 scrive tutto come JSON
+  --data-dir CARTELLA    usa questa cartella invece di quella dell'applicazione
+</source>
+            <translation>Usage: vantello-cli work [--reminder-day D [--reminder-hour H]] [--today YYYY-MM-DD] [--json]
+                         [--data-dir FOLDER]
+
+Shows the periods of unemployment, the one in progress, the last salary and whether this
+month's is recorded yet. With --reminder-day it also tells when the salary reminder would go
+off with that day and hour.
+
+  --reminder-day D       the day of the month of the reminder, 1 to 31
+  --reminder-hour H      the hour of the reminder, 0 to 23 (9 when missing)
+  --today YYYY-MM-DD     the day to take as today, instead of the clock
+  --json                 writes everything as JSON
+  --data-dir FOLDER      uses this folder instead of the application's
+</translation>
+        </message>
+        <message>
+            <source>Per la pizza</source>
+            <translation>For the pizza</translation>
+        </message>
+        <message>
+            <source>Conto risparmi</source>
+            <translation>Savings account</translation>
+        </message>
+        <message>
+            <source>Vacanze in Sardegna</source>
+            <translation>Holiday in Sardinia</translation>
+        </message>
+        <message>
+            <source>Prestito auto</source>
+            <translation>Car loan</translation>
+        </message>
+        <message>
+            <source>Auto</source>
+            <translation>Car</translation>
+        </message>
+        <message>
+            <source> Le modifiche non verranno salvate.</source>
+            <translation> Changes will not be saved.</translation>
+        </message>
+        <message>
+            <source>Non trovo la cartella dei dati: le modifiche non verranno salvate.</source>
+            <translation>The data folder cannot be found: changes will not be saved.</translation>
+        </message>
+        <message>
+            <source>Il file dei movimenti era danneggiato: l'ho spostato in «{name}» e Vantello riparte vuoto.</source>
+            <translation>The movements file was damaged: it was moved to “{name}” and Vantello starts empty.</translation>
+        </message>
+        <message>
+            <source>Non riesco a leggere i movimenti. Le modifiche non verranno salvate.</source>
+            <translation>The movements cannot be read. Changes will not be saved.</translation>
+        </message>
+        <message>
+            <source>Annulla {action}</source>
+            <translation>Undo {action}</translation>
+        </message>
+        <message>
+            <source>Ripeti {action}</source>
+            <translation>Redo {action}</translation>
+        </message>
+        <message>
+            <source>Backup non riuscito: </source>
+            <translation>Backup failed: </translation>
+        </message>
+        <message>
+            <source>Ripristino non riuscito: </source>
+            <translation>Restore failed: </translation>
+        </message>
+        <message>
+            <source>Non riesco a usare questa cartella per i backup: </source>
+            <translation>This folder cannot be used for backups: </translation>
+        </message>
+        <message>
+            <source>Importa movimenti</source>
+            <translation>Import movements</translation>
+        </message>
+        <message>
+            <source>Vantello {month}.csv</source>
+            <translation>Vantello {month}.csv</translation>
+        </message>
+        <message>
+            <source>Vantello movimenti.csv</source>
+            <translation>Vantello movements.csv</translation>
+        </message>
+        <message>
+            <source>È passato il giorno dello stipendio (il {giorno}): non l'hai ancora registrato questo mese.</source>
+            <translation>Payday has passed (the {giorno}): you have not recorded this month's salary yet.</translation>
+        </message>
+        <message>
+            <source>Vantello: {count} nuovi avvisi</source>
+            <translation>Vantello: {count} new alerts</translation>
+        </message>
+        <message>
+            <source>Le notifiche di Vantello sono disattivate: resterà solo l'avviso nell'app.</source>
+            <translation>Vantello's notifications are turned off: only the notice in the app will remain.</translation>
+        </message>
+        <message>
+            <source>È il giorno dello stipendio</source>
+            <translation>It's payday</translation>
+        </message>
+        <message>
+            <source>Registra lo stipendio in Vantello: l'importo dell'ultimo è già pronto.</source>
+            <translation>Record your salary in Vantello: the amount of the last one is already filled in.</translation>
+        </message>
+        <message>
+            <source>Salva periodo senza lavoro</source>
+            <translation>Save period without work</translation>
+        </message>
+        <message>
+            <source>Elimina periodo senza lavoro</source>
+            <translation>Delete period without work</translation>
+        </message>
+        <message>
+            <source>non è un giorno</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Automatico (lingua del sistema)</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Italiano</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>English</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Lingua dell'app</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>La nuova lingua si applica al riavvio di Vantello.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Riavvia ora</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Automatico</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Chiaro</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Scuro</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Solarized chiaro</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Solarized scuro</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Tema</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Il tema vale per tutte le finestre di Vantello. «Automatico» segue l'aspetto scelto nelle impostazioni del sistema.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Aggiunta rapida nella barra dei menu</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Un'icona € in alto a destra per aggiungere un movimento senza aprire la finestra di Vantello.</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Generali</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Backup</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Aspetto</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Gestioni</source>
+            <translation type="unfinished" />
+        </message>
+        <message>
+            <source>Prossimo promemoria dello stipendio: il {giorno} alle {ora}</source>
+            <translation>Next salary reminder: on {giorno} at {ora}:00</translation>
+        </message>
     </context>
 </TS>

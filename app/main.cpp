@@ -1,14 +1,34 @@
 // The desktop application's entry: set up the interface language and open the main window.
 
 #include "app/model/OrderlyQuit.hpp"
+#include "app/model/ProfilesController.hpp"
+#include "app/notifications/NotificationService.hpp"
 #include "app/screens/MainWindow.hpp"
 #include "app/settings/Language.hpp"
+#include "app/settings/Preferences.hpp"
+#include "core/files/DataFolder.hpp"
+#include "core/files/Trash.hpp"
 
 #include <QApplication>
 #include <QCommandLineParser>
 
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <optional>
+
+namespace {
+
+// The user's data folder, or nothing when there is none to be found (the model then says so).
+std::optional<std::filesystem::path> rootDataFolder() {
+    try {
+        return vantello::dataFolder();
+    } catch (const vantello::DataFolderError&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
     // Answered before the window system is touched, so it works without a display.
@@ -33,6 +53,22 @@ int main(int argc, char* argv[]) {
     // SIGTERM, SIGINT, SIGHUP and the session's end quit through the event loop, so that the
     // ledger writers are flushed before the process ends.
     vantello::app::OrderlyQuit orderlyQuit(application);
+
+    vantello::app::Preferences preferences;
+    vantello::app::NotificationService notifications;
+    const vantello::Calendar calendar = vantello::Calendar::current();
+    vantello::app::ProfilesController profiles({
+        .rootFolder = rootDataFolder(),
+        .calendar = calendar,
+        .now = {},
+        .preferences = &preferences,
+        .moveToTrash =
+            [&calendar](const std::filesystem::path& folder) {
+                vantello::moveToTrash(folder, vantello::homeTrashFolder(), vantello::clockNow(), calendar);
+            },
+        .notifications = &notifications,
+    });
+    orderlyQuit.beforeQuitting([&profiles] { profiles.flush(); });
     vantello::app::MainWindow window;
     window.show();
     return QApplication::exec();

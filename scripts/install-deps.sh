@@ -11,6 +11,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   clang
   python3 tzdata
+  dbus
 )
 
 missing=()

@@ -62,8 +62,7 @@ LedgerViewModel::LedgerViewModel(Setup setup, QObject* parent)
         canRemoveAttachments_ = false;
         setErrorMessage(text(error.message()) + unsavedSuffix());
     }
-    load();
-    generateDueTransactions();
+    reload();
     if (preferences_) {
         salaryReminder_ = preferences_->salaryReminder();
         salaryPostponedDay_ = preferences_->salaryReminderDismissedDay();
@@ -186,15 +185,6 @@ void LedgerViewModel::readLedgerFile() {
 void LedgerViewModel::reload() {
     load();
     generateDueTransactions();
-    if (preferences_) {
-        salaryReminder_ = preferences_->salaryReminder();
-        salaryPostponedDay_ = preferences_->salaryReminderDismissedDay();
-        customBackupFolder_ = preferences_->backupFolder();
-        alertSettings_ = preferences_->alertSettings();
-        alertNotifications_ = preferences_->alertNotifications();
-    }
-    refreshBackups();
-    backUpIfNoneToday();
 }
 
 int LedgerViewModel::generateDueTransactions() {

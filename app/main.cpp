@@ -2,10 +2,13 @@
 
 #include "app/model/OrderlyQuit.hpp"
 #include "app/model/ProfilesController.hpp"
+#include "app/model/RatesKeeper.hpp"
 #include "app/notifications/NotificationService.hpp"
 #include "app/screens/MainWindow.hpp"
 #include "app/settings/Language.hpp"
 #include "app/settings/Preferences.hpp"
+#include "app/settings/ThemeApplication.hpp"
+#include "app/settings/AppTheme.hpp"
 #include "core/files/DataFolder.hpp"
 #include "core/files/Trash.hpp"
 
@@ -56,9 +59,13 @@ int main(int argc, char* argv[]) {
 
     vantello::app::Preferences preferences;
     vantello::app::NotificationService notifications;
+    vantello::app::applyTheme(vantello::app::storedTheme(preferences));
     const vantello::Calendar calendar = vantello::Calendar::current();
+    const std::optional<std::filesystem::path> root = rootDataFolder();
+    std::optional<vantello::app::RatesKeeper> rates;
+    if (root) rates.emplace(*root / vantello::app::RatesKeeper::cacheFileName);
     vantello::app::ProfilesController profiles({
-        .rootFolder = rootDataFolder(),
+        .rootFolder = root,
         .calendar = calendar,
         .now = {},
         .preferences = &preferences,
@@ -67,6 +74,7 @@ int main(int argc, char* argv[]) {
                 vantello::moveToTrash(folder, vantello::homeTrashFolder(), vantello::clockNow(), calendar);
             },
         .notifications = &notifications,
+        .rates = rates ? &*rates : nullptr,
     });
     orderlyQuit.beforeQuitting([&profiles] { profiles.flush(); });
     vantello::app::MainWindow window;

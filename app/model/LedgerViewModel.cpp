@@ -294,6 +294,12 @@ void LedgerViewModel::postponeSalaryBanner() {
     Q_EMIT salaryReminderChanged();
 }
 
+void LedgerViewModel::setExchangeRates(std::optional<ExchangeRates> rates) {
+    if (rates == exchangeRates_) return;
+    exchangeRates_ = std::move(rates);
+    Q_EMIT exchangeRatesChanged();
+}
+
 void LedgerViewModel::setAlertSettings(const AlertSettings& settings) {
     if (settings == alertSettings_) return;
     alertSettings_ = settings;

@@ -19,6 +19,7 @@
 #include "core/ledger/Ledger.hpp"
 #include "core/ledger/LedgerEmployment.hpp"
 #include "core/planning/SalaryReminder.hpp"
+#include "core/rates/ExchangeRates.hpp"
 #include "core/statements/ImportMerge.hpp"
 #include "core/statements/StatementImport.hpp"
 
@@ -114,6 +115,10 @@ public:
     [[nodiscard]] const std::optional<Instant>& salaryPostponedDay() const { return salaryPostponedDay_; }
     void postponeSalaryBanner();
 
+    // ---- the ECB's reference rates last fetched (or read from the cache), for the editor
+    [[nodiscard]] const std::optional<ExchangeRates>& exchangeRates() const { return exchangeRates_; }
+    void setExchangeRates(std::optional<ExchangeRates> rates);
+
     // ---- smart alerts' settings
     [[nodiscard]] const AlertSettings& alertSettings() const { return alertSettings_; }
     void setAlertSettings(const AlertSettings& settings);
@@ -192,6 +197,7 @@ Q_SIGNALS:
     void importSessionChanged();
     void salaryReminderChanged();
     void alertSettingsChanged();
+    void exchangeRatesChanged();
     void exportRequestChanged();
 
 private:
@@ -243,6 +249,7 @@ private:
     std::optional<Instant> salaryPostponedDay_;
     AlertSettings alertSettings_;
     bool alertNotifications_ = false;
+    std::optional<ExchangeRates> exchangeRates_;
     std::optional<ExportRequest> exportRequest_;
 
     Memo<Ledger, std::tuple<std::uint64_t, std::optional<std::string>>> visibleLedger_;

@@ -61,7 +61,9 @@ void LedgerViewModel::backUpIfNoneToday() {
     const std::filesystem::path folder = store_->file().parent_path();
     const Instant now = now_();
     onWriterThread(
-        [backups = *backups, owner, folder, now, calendar = calendar_] {
+        [backups = *backups, owner, folder, now, calendar = calendar_, ledgerFile = store_->file()] {
+            // Nothing to keep yet on a first start.
+            if (!std::filesystem::exists(ledgerFile)) return;
             if (backups.isThereABackupOfToday(owner ? std::optional(owner->profileID) : std::nullopt, now, calendar)) {
                 return;
             }

@@ -17,6 +17,10 @@ QString text(const std::string& message) { return QString::fromStdString(message
 
 ProfilesController::ProfilesController(Setup setup, QObject* parent) : QObject(parent), setup_(std::move(setup)) {
     if (!setup_.now) setup_.now = clockNow;
+    if (setup_.rates) {
+        connect(setup_.rates, &RatesKeeper::ratesChanged, this,
+                [this] { model_->setExchangeRates(setup_.rates->rates()); });
+    }
     if (setup_.rootFolder) store_.emplace(*setup_.rootFolder);
     reloadList();
     const std::optional<Uuid> chosen = setup_.preferences->currentProfile();
@@ -36,6 +40,7 @@ void ProfilesController::showModel(const std::optional<ManagedProfile>& profile)
         modelSetup.defaultBackupFolder = BackupStore::inDataFolder(store_->root()).folder;
     }
     model_ = std::make_unique<LedgerViewModel>(std::move(modelSetup), this);
+    if (setup_.rates && !setup_.rates->rates().hasNoRates()) model_->setExchangeRates(setup_.rates->rates());
     if (setup_.notifications) modelNotifications_ = std::make_unique<ModelNotifications>(*model_, *setup_.notifications);
 }
 

@@ -4,6 +4,7 @@
 // profile list and the choice, remembered under "currentProfile". Lives on the main thread.
 
 #include "app/model/LedgerViewModel.hpp"
+#include "app/model/RatesKeeper.hpp"
 #include "app/notifications/ModelNotifications.hpp"
 #include "app/notifications/NotificationService.hpp"
 #include "app/settings/Preferences.hpp"
@@ -32,6 +33,9 @@ public:
         ProfileStore::MoveToTrash moveToTrash;
         // The desktop's notifications, kept in step with the model in use; none in tests.
         NotificationService* notifications = nullptr;
+        // The reference rates shared by every profile (kept beside the user's own data); none in
+        // tests that do not need them.
+        RatesKeeper* rates = nullptr;
     };
 
     explicit ProfilesController(Setup setup, QObject* parent = nullptr);

@@ -1,10 +1,11 @@
 #include "app/settings/Language.hpp"
 
+#include "app/settings/AppLanguage.hpp"
+#include "app/settings/Preferences.hpp"
 #include "core/base/Localization.hpp"
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QSettings>
 #include <QTranslator>
 
 namespace vantello::app {
@@ -12,18 +13,25 @@ namespace vantello::app {
 namespace {
 // Every text of the core and of the screens sits in one translation context.
 constexpr const char* translationContext = "Vantello";
-}  // namespace
 
-InterfaceLanguage languageFor(const QString& preference, const QString& systemLocaleName) {
-    if (preference == QLatin1String("en")) return InterfaceLanguage::english;
-    if (preference == QLatin1String("it")) return InterfaceLanguage::italian;
+InterfaceLanguage languageFor(AppLanguage chosen, const QString& systemLocaleName) {
+    switch (chosen) {
+        case AppLanguage::english: return InterfaceLanguage::english;
+        case AppLanguage::italian: return InterfaceLanguage::italian;
+        case AppLanguage::system: break;
+    }
     return systemLocaleName.startsWith(QLatin1String("en")) ? InterfaceLanguage::english
                                                             : InterfaceLanguage::italian;
 }
 
+}  // namespace
+
+InterfaceLanguage languageFor(const QVariant& preference, const QString& systemLocaleName) {
+    return languageFor(appLanguageFor(preference), systemLocaleName);
+}
+
 InterfaceLanguage installInterfaceLanguage(QCoreApplication& application) {
-    const QString preference = QSettings().value(QStringLiteral("language")).toString();
-    const InterfaceLanguage language = languageFor(preference, QLocale::system().name());
+    const InterfaceLanguage language = languageFor(storedAppLanguage(Preferences()), QLocale::system().name());
     if (language == InterfaceLanguage::english) {
         auto* translator = new QTranslator(&application);
         if (translator->load(QStringLiteral(":/i18n/vantello_en.qm"))) {

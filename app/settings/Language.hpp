@@ -3,6 +3,7 @@
 // decides which texts the application and the core speak. Italian texts are the keys.
 
 #include <QString>
+#include <QVariant>
 
 class QCoreApplication;
 
@@ -10,9 +11,10 @@ namespace vantello::app {
 
 enum class InterfaceLanguage { italian, english };
 
-// The language for a preference value and the system's locale name ("en_GB", "it_IT", "C").
-// Italian unless English is asked for, or the system speaks English and nothing is asked.
-[[nodiscard]] InterfaceLanguage languageFor(const QString& preference, const QString& systemLocaleName);
+// The language for a stored preference value (read as AppLanguage reads it) and the system's
+// locale name ("en_GB", "it_IT", "C"). Italian unless English is asked for, or the system
+// speaks English and no language is asked for.
+[[nodiscard]] InterfaceLanguage languageFor(const QVariant& preference, const QString& systemLocaleName);
 
 // Reads the preference, installs the Qt translator for the application and routes the core's
 // texts through it. Returns the language installed.

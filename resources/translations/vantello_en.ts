@@ -1107,83 +1107,83 @@ off with that day and hour.
         </message>
         <message>
             <source>non è un giorno</source>
-            <translation type="unfinished" />
+            <translation>is not a day</translation>
         </message>
         <message>
             <source>Automatico (lingua del sistema)</source>
-            <translation type="unfinished" />
+            <translation>Automatic (system language)</translation>
         </message>
         <message>
             <source>Italiano</source>
-            <translation type="unfinished" />
+            <translation>Italiano</translation>
         </message>
         <message>
             <source>English</source>
-            <translation type="unfinished" />
+            <translation>English</translation>
         </message>
         <message>
             <source>Lingua dell'app</source>
-            <translation type="unfinished" />
+            <translation>App language</translation>
         </message>
         <message>
             <source>La nuova lingua si applica al riavvio di Vantello.</source>
-            <translation type="unfinished" />
+            <translation>The new language applies when Vantello restarts.</translation>
         </message>
         <message>
             <source>Riavvia ora</source>
-            <translation type="unfinished" />
+            <translation>Restart now</translation>
         </message>
         <message>
             <source>Automatico</source>
-            <translation type="unfinished" />
+            <translation>Automatic</translation>
         </message>
         <message>
             <source>Chiaro</source>
-            <translation type="unfinished" />
+            <translation>Light</translation>
         </message>
         <message>
             <source>Scuro</source>
-            <translation type="unfinished" />
+            <translation>Dark</translation>
         </message>
         <message>
             <source>Solarized chiaro</source>
-            <translation type="unfinished" />
+            <translation>Solarized light</translation>
         </message>
         <message>
             <source>Solarized scuro</source>
-            <translation type="unfinished" />
+            <translation>Solarized dark</translation>
         </message>
         <message>
             <source>Tema</source>
-            <translation type="unfinished" />
+            <translation>Theme</translation>
         </message>
         <message>
             <source>Il tema vale per tutte le finestre di Vantello. «Automatico» segue l'aspetto scelto nelle impostazioni del sistema.</source>
-            <translation type="unfinished" />
+            <translation>The theme applies to every Vantello window. “Automatic” follows the appearance chosen in the system settings.</translation>
         </message>
         <message>
             <source>Aggiunta rapida nella barra dei menu</source>
-            <translation type="unfinished" />
+            <translation>Quick add in the menu bar</translation>
         </message>
         <message>
             <source>Un'icona € in alto a destra per aggiungere un movimento senza aprire la finestra di Vantello.</source>
-            <translation type="unfinished" />
+            <translation>A € icon at the top right to add a movement without opening the Vantello window.</translation>
         </message>
         <message>
             <source>Generali</source>
-            <translation type="unfinished" />
+            <translation>General</translation>
         </message>
         <message>
             <source>Backup</source>
-            <translation type="unfinished" />
+            <translation>Backup</translation>
         </message>
         <message>
             <source>Aspetto</source>
-            <translation type="unfinished" />
+            <translation>Appearance</translation>
         </message>
         <message>
             <source>Gestioni</source>
-            <translation type="unfinished" />
+            <translation>Profiles</translation>
         </message>
         <message>
             <source>Prossimo promemoria dello stipendio: il {giorno} alle {ora}</source>

@@ -3,6 +3,7 @@
 
 #include "app/model/ProfilesController.hpp"
 #include "core/files/LedgerStore.hpp"
+#include "core/rates/RateCache.hpp"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -20,10 +21,16 @@ private Q_SLOTS:
         Preferences preferences{home.path() + QStringLiteral("/Vantello.conf")};
         std::vector<std::filesystem::path> trashed;
         const Calendar rome("Europe/Rome");
+        // Rates read from the cache reach every profile's model, without a download.
+        ExchangeRates cached;
+        cached.days["2026-03-17"]["USD"] = Decimal(1085, -3);
+        std::filesystem::create_directories(root);
+        RateCache::write(root / RatesKeeper::cacheFileName, cached);
+        RatesKeeper rates(root / RatesKeeper::cacheFileName);
         const auto setup = [&] {
             return ProfilesController::Setup{root, rome, [&] { return *rome.date({2026, 3, 18}, 12); }, &preferences,
                                              [&](const std::filesystem::path& folder) { trashed.push_back(folder); },
-                                             nullptr};
+                                             nullptr, &rates};
         };
         auto owner = std::make_unique<ProfilesController>(setup());
         ProfilesController& profiles = *owner;
@@ -40,6 +47,7 @@ private Q_SLOTS:
         QCOMPARE(switched.count(), 1);
         QCOMPARE(profiles.model().profile()->id, household.id);
         QVERIFY(profiles.model().ledger().data().dismissedAlerts.empty());
+        QVERIFY(profiles.model().exchangeRates() == std::optional(cached));
         // The user's edit reached the disk before the switch.
         QVERIFY(LedgerStore(root / "movimenti.json").load().dismissedAlerts.contains("mio"));
 

@@ -1,0 +1,15 @@
+#pragma once
+// Puts a theme into effect for every window of the running application.
+
+#include "app/settings/AppTheme.hpp"
+#include "app/settings/ThemePalette.hpp"
+
+namespace vantello::app {
+
+// Sets the application's palette for `theme` (for `system`, hands it back to the desktop, so
+// that it follows a later change of the desktop's appearance) and, where Qt can, the colour
+// scheme of the style hints. Returns the colours the screens draw with. Needs a
+// QGuiApplication (or QApplication).
+ThemePalette applyTheme(AppTheme theme);
+
+}  // namespace vantello::app

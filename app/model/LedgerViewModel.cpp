@@ -18,6 +18,8 @@ namespace {
 
 QString text(const std::string& message) { return QString::fromStdString(message); }
 
+const QString sidebarSelectionKey = QStringLiteral("sidebarSelection");
+
 QString unsavedSuffix() { return text(L10n::tr(" Le modifiche non verranno salvate.")); }
 
 template <typename Value, typename Inputs, typename Compute>
@@ -69,6 +71,8 @@ LedgerViewModel::LedgerViewModel(Setup setup, QObject* parent)
         customBackupFolder_ = preferences_->backupFolder();
         alertSettings_ = preferences_->alertSettings();
         alertNotifications_ = preferences_->alertNotifications();
+        const QString screen = preferences_->value(sidebarSelectionKey).toString();
+        if (!screen.isEmpty()) sidebarSelection_ = screen;
     }
     refreshBackups();
     backUpIfNoneToday();
@@ -292,6 +296,44 @@ void LedgerViewModel::postponeSalaryBanner() {
     salaryPostponedDay_ = calendar_.startOfDay(now_());
     if (preferences_) preferences_->setSalaryReminderDismissedDay(salaryPostponedDay_);
     Q_EMIT salaryReminderChanged();
+}
+
+// ---- what the screens have open
+
+namespace {
+
+// Assigns and announces only a real change.
+template <typename Value, typename Signal>
+void change(LedgerViewModel& model, Value& field, Value value, Signal signal) {
+    if (field == value) return;
+    field = std::move(value);
+    Q_EMIT (model.*signal)();
+}
+
+}  // namespace
+
+void LedgerViewModel::setDraft(std::optional<TransactionDraft> draft) {
+    change(*this, draft_, std::move(draft), &LedgerViewModel::draftChanged);
+}
+
+void LedgerViewModel::setScenarioAdjustments(std::vector<ScenarioAdjustment> adjustments) {
+    change(*this, scenarioAdjustments_, std::move(adjustments), &LedgerViewModel::scenarioAdjustmentsChanged);
+}
+
+void LedgerViewModel::setSidebarSelection(std::optional<QString> screen) {
+    if (screen == sidebarSelection_) return;
+    if (preferences_) {
+        if (screen) {
+            preferences_->setValue(sidebarSelectionKey, *screen);
+        } else {
+            preferences_->remove(sidebarSelectionKey);
+        }
+    }
+    change(*this, sidebarSelection_, std::move(screen), &LedgerViewModel::sidebarSelectionChanged);
+}
+
+void LedgerViewModel::setChoosingImportFile(bool choosing) {
+    change(*this, isChoosingImportFile_, choosing, &LedgerViewModel::choosingImportFileChanged);
 }
 
 void LedgerViewModel::setExchangeRates(std::optional<ExchangeRates> rates) {

@@ -18,7 +18,9 @@
 #include "core/files/ManagedProfile.hpp"
 #include "core/ledger/Ledger.hpp"
 #include "core/ledger/LedgerEmployment.hpp"
+#include "core/ledger/TransactionDraft.hpp"
 #include "core/planning/SalaryReminder.hpp"
+#include "core/planning/Scenario.hpp"
 #include "core/rates/ExchangeRates.hpp"
 #include "core/statements/ImportMerge.hpp"
 #include "core/statements/StatementImport.hpp"
@@ -115,6 +117,19 @@ public:
     [[nodiscard]] const std::optional<Instant>& salaryPostponedDay() const { return salaryPostponedDay_; }
     void postponeSalaryBanner();
 
+    // ---- what the screens have open, kept here so that every screen sees the same
+    // The movement in the editor sheet; absent when no editor is open.
+    [[nodiscard]] const std::optional<TransactionDraft>& draft() const { return draft_; }
+    void setDraft(std::optional<TransactionDraft> draft);
+    // The what-if changes being edited; never saved.
+    [[nodiscard]] const std::vector<ScenarioAdjustment>& scenarioAdjustments() const { return scenarioAdjustments_; }
+    void setScenarioAdjustments(std::vector<ScenarioAdjustment> adjustments);
+    // The screen shown in the main window ("movements", "charts"…), kept under "sidebarSelection".
+    [[nodiscard]] const std::optional<QString>& sidebarSelection() const { return sidebarSelection_; }
+    void setSidebarSelection(std::optional<QString> screen);
+    [[nodiscard]] bool isChoosingImportFile() const { return isChoosingImportFile_; }
+    void setChoosingImportFile(bool choosing);
+
     // ---- the ECB's reference rates last fetched (or read from the cache), for the editor
     [[nodiscard]] const std::optional<ExchangeRates>& exchangeRates() const { return exchangeRates_; }
     void setExchangeRates(std::optional<ExchangeRates> rates);
@@ -198,6 +213,10 @@ Q_SIGNALS:
     void salaryReminderChanged();
     void alertSettingsChanged();
     void exchangeRatesChanged();
+    void draftChanged();
+    void scenarioAdjustmentsChanged();
+    void sidebarSelectionChanged();
+    void choosingImportFileChanged();
     void exportRequestChanged();
 
 private:
@@ -250,6 +269,10 @@ private:
     AlertSettings alertSettings_;
     bool alertNotifications_ = false;
     std::optional<ExchangeRates> exchangeRates_;
+    std::optional<TransactionDraft> draft_;
+    std::vector<ScenarioAdjustment> scenarioAdjustments_;
+    std::optional<QString> sidebarSelection_;
+    bool isChoosingImportFile_ = false;
     std::optional<ExportRequest> exportRequest_;
 
     Memo<Ledger, std::tuple<std::uint64_t, std::optional<std::string>>> visibleLedger_;

@@ -229,11 +229,17 @@ private Q_SLOTS:
         model->setSalaryReminder({true, 5, 9});
         model->postponeSalaryBanner();
         model->setAlertNotifications(true);
+        model->setSidebarSelection(QStringLiteral("goals"));
+        QSignalSpy adjusted(model.get(), &LedgerViewModel::scenarioAdjustmentsChanged);
+        model->setScenarioAdjustments({{Uuid::random(), ScenarioAdjustment::Income{0.05}}});
+        QCOMPARE(adjusted.count(), 1);
         model.reset();
         model = place.model();
         QCOMPARE(model->salaryReminder(), (SalaryReminder{true, 5, 9}));
         QCOMPARE(model->salaryPostponedDay(), std::optional(rome.startOfDay(noon(2026, 3, 18))));
         QVERIFY(model->alertNotifications());
+        QCOMPARE(model->sidebarSelection(), std::optional(QStringLiteral("goals")));
+        QVERIFY(model->scenarioAdjustments().empty());  // never saved
     }
 
     void withoutDataFolderNothingIsSaved() {

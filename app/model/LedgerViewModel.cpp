@@ -120,7 +120,7 @@ void LedgerViewModel::takeLedger(Ledger ledger) {
 
 void LedgerViewModel::save() {
     if (isDemo_ || !canSave_ || !store_) return;
-    writer_->save({ledger_.data(), *store_, canRemoveAttachments_ ? attachmentStore_ : std::nullopt, {},
+    writer_->save({ledger_.data(), *store_, canRemoveAttachments_ ? attachmentStore_ : std::nullopt, unsavedAttachments_,
                    std::chrono::system_clock::now()});
 }
 

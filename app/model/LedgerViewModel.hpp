@@ -35,6 +35,7 @@
 #include <optional>
 #include <string>
 #include <tuple>
+#include <variant>
 #include <vector>
 
 namespace vantello::app {
@@ -87,6 +88,31 @@ public:
     // returned to the caller with ErrorRoute::caller (the open sheet shows it).
     std::optional<QString> apply(const QString& actionName, const std::function<void(Ledger&)>& operation,
                                  ErrorRoute route = ErrorRoute::banner);
+
+    // ---- movements, the operations of the month screen, the editor and the quick add
+    // A new movement of the kind dated now, in its first category and the account shown (or the
+    // main one).
+    [[nodiscard]] TransactionDraft newDraft(TransactionKind kind) const;
+    // An existing movement for the editor; nothing for an unknown id.
+    [[nodiscard]] std::optional<TransactionDraft> draftOf(const Uuid& transactionID) const;
+    // This month's salary, prefilled from the last one (amount, account, note).
+    [[nodiscard]] TransactionDraft salaryDraft() const;
+    // Adds or changes the movement; a bad amount or the core's error goes back to the sheet,
+    // which stays open.
+    std::optional<QString> saveDraft(const TransactionDraft& draft);
+    // Deletes the movements in one change ("Elimina movimento" or "Elimina movimenti").
+    void deleteTransactions(const std::vector<Uuid>& transactionIDs);
+    // A copy of the movement dated now, without its attachments; returns its id.
+    std::optional<Uuid> duplicateTransaction(const Uuid& transactionID);
+    // Copies a picked file into the attachments folder for the open editor; until the movement
+    // is saved the clean-up after each write keeps it. The reason in the user's language when
+    // the file cannot be attached.
+    [[nodiscard]] std::variant<Attachment, QString> importAttachment(const std::filesystem::path& file);
+    // The editor closed: a cancelled editor's copies are removed, a saved one's are kept by the
+    // movement now.
+    void finishEditingAttachments(bool saved);
+    // The in-app salary banner's text when it is due, nothing otherwise.
+    [[nodiscard]] std::optional<QString> salaryBannerText() const;
 
     // ---- undo and redo, through the same door; never across a reload or the demo
     [[nodiscard]] bool canUndo() const { return history_.canUndo(); }
@@ -270,6 +296,7 @@ private:
     bool alertNotifications_ = false;
     std::optional<ExchangeRates> exchangeRates_;
     std::optional<TransactionDraft> draft_;
+    std::vector<Attachment> unsavedAttachments_;
     std::vector<ScenarioAdjustment> scenarioAdjustments_;
     std::optional<QString> sidebarSelection_;
     bool isChoosingImportFile_ = false;

@@ -24,7 +24,13 @@ InterfaceLanguage languageFor(AppLanguage chosen, const QString& systemLocaleNam
                                                             : InterfaceLanguage::italian;
 }
 
+InterfaceLanguage installedLanguage = InterfaceLanguage::italian;
+
 }  // namespace
+
+InterfaceLanguage currentInterfaceLanguage() { return installedLanguage; }
+
+std::string interfaceLocaleName() { return installedLanguage == InterfaceLanguage::english ? "en_US" : "it_IT"; }
 
 InterfaceLanguage languageFor(const QVariant& preference, const QString& systemLocaleName) {
     return languageFor(appLanguageFor(preference), systemLocaleName);
@@ -38,6 +44,8 @@ InterfaceLanguage installInterfaceLanguage(QCoreApplication& application) {
             QCoreApplication::installTranslator(translator);
         }
     }
+    installedLanguage = language;
+    QLocale::setDefault(QLocale(QString::fromStdString(interfaceLocaleName())));
     L10n::install([](std::string_view key) {
         const std::string text(key);
         return QCoreApplication::translate(translationContext, text.c_str()).toStdString();

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <string>
+
 class QCoreApplication;
 
 namespace vantello::app {
@@ -19,5 +21,10 @@ enum class InterfaceLanguage { italian, english };
 // Reads the preference, installs the Qt translator for the application and routes the core's
 // texts through it. Returns the language installed.
 InterfaceLanguage installInterfaceLanguage(QCoreApplication& application);
+
+// The language installed last (Italian before any), and the ICU/Qt locale name the screens
+// format amounts and dates with: "it_IT" or "en_US".
+[[nodiscard]] InterfaceLanguage currentInterfaceLanguage();
+[[nodiscard]] std::string interfaceLocaleName();
 
 }  // namespace vantello::app

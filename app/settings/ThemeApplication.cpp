@@ -33,7 +33,14 @@ Qt::ColorScheme colourSchemeFor(AppTheme theme) {
 }
 #endif
 
+ThemePalette& appliedPalette() {
+    static ThemePalette palette = ThemePalette::fromQtPalette(QGuiApplication::palette());
+    return palette;
+}
+
 }  // namespace
+
+const ThemePalette& currentPalette() { return appliedPalette(); }
 
 ThemePalette applyTheme(AppTheme theme) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
@@ -41,7 +48,8 @@ ThemePalette applyTheme(AppTheme theme) {
     QGuiApplication::styleHints()->setColorScheme(colourSchemeFor(theme));
 #endif
     QGuiApplication::setPalette(qtPaletteFor(theme));
-    return themePalette(theme, QGuiApplication::palette());
+    appliedPalette() = themePalette(theme, QGuiApplication::palette());
+    return appliedPalette();
 }
 
 }  // namespace vantello::app

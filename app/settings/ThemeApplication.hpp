@@ -12,4 +12,8 @@ namespace vantello::app {
 // QGuiApplication (or QApplication).
 ThemePalette applyTheme(AppTheme theme);
 
+// The colours of the theme last applied (the desktop's standard ones before any), for the
+// screens' own drawing: income and expense amounts, cards, separators.
+[[nodiscard]] const ThemePalette& currentPalette();
+
 }  // namespace vantello::app

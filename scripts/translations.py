@@ -16,7 +16,7 @@ import xml.etree.ElementTree as ET
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TABLE = ROOT / "resources" / "translations" / "vantello_en.ts"
 SOURCES = ("core", "app", "cli")
-CALL = re.compile(r'\b(?:tr|key|text)\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+)')
+CALL = re.compile(r'\b(?:tr|key|text|uiText)\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+)')
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 
 

@@ -193,6 +193,9 @@ public:
     // The month shown (with the account filter) or every movement, for the user to save.
     void exportMonth();
     void exportAll();
+    // Writes the waiting document to `file` in one step (a failure leaves any file there as it
+    // was) and finishes the request; the reason in the user's language when it cannot.
+    std::optional<QString> saveExport(const std::filesystem::path& file);
     void finishExport();
 
     // ---- backups (made and restored on the writer's thread, after every save handed over)

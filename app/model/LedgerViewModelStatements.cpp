@@ -4,6 +4,7 @@
 #include "app/model/LedgerViewModel.hpp"
 
 #include "core/analysis/MonthKey.hpp"
+#include "core/base/AtomicFile.hpp"
 #include "core/base/Localization.hpp"
 #include "core/statements/CSVExport.hpp"
 
@@ -78,6 +79,17 @@ void LedgerViewModel::exportMonth() {
 void LedgerViewModel::exportAll() {
     const auto& all = ledger_.transactions();
     setExportRequest({all.begin(), all.end()}, text(L10n::tr("Vantello movimenti.csv")));
+}
+
+std::optional<QString> LedgerViewModel::saveExport(const std::filesystem::path& file) {
+    if (!exportRequest_) return std::nullopt;
+    try {
+        writeFileAtomically(file, exportRequest_->document);
+    } catch (const UserError& error) {
+        return text(error.message());
+    }
+    finishExport();
+    return std::nullopt;
 }
 
 void LedgerViewModel::finishExport() {

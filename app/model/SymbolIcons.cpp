@@ -2,7 +2,6 @@
 
 #include <QHash>
 
-#include <array>
 #include <utility>
 
 namespace vantello::app {
@@ -12,28 +11,28 @@ namespace {
 // Symbol names of the ledger (those of the built-in categories and accounts first, then the
 // ones the pickers offer) and the icon of the freedesktop naming specification, or of the
 // Adwaita theme where the specification has none, that shows the same thing.
-constexpr std::array<std::pair<std::string_view, const char*>, 44> table{{
-    {"cart", "emblem-shopping-cart"},
+constexpr std::pair<std::string_view, const char*> table[] = {
+    {"cart", "emoji-objects"},
     {"house", "go-home"},
     {"bolt", "battery-full-charging"},
-    {"car", "vehicle-car"},
+    {"car", "emoji-travel"},
     {"fork.knife", "emoji-food"},
     {"theatermasks", "applications-games"},
     {"repeat", "media-playlist-repeat"},
     {"cross.case", "applications-science"},
-    {"tshirt", "emoji-objects"},
+    {"tshirt", "emoji-people"},
     {"ellipsis.circle", "view-more"},
     {"briefcase", "applications-office"},
     {"briefcase.fill", "applications-office"},
     {"person.badge.clock", "appointment-soon"},
     {"plus.circle", "list-add"},
     {"arrow.left.arrow.right", "media-playlist-shuffle"},
-    {"banknote", "emblem-money"},
+    {"banknote", "accessories-calculator"},
     {"creditcard", "auth-smartcard"},
     {"building.columns", "user-home"},
     {"wallet.pass", "emblem-documents"},
-    {"eurosign.circle", "emblem-money"},
-    {"gift", "emoji-celebrate"},
+    {"eurosign.circle", "accessories-calculator"},
+    {"gift", "emoji-activities"},
     {"airplane", "airplane-mode"},
     {"heart", "emblem-favorite"},
     {"book", "accessories-dictionary"},
@@ -44,10 +43,10 @@ constexpr std::array<std::pair<std::string_view, const char*>, 44> table{{
     {"wifi", "network-wireless"},
     {"tv", "video-display"},
     {"music.note", "audio-x-generic"},
-    {"fuelpump", "vehicle-car"},
-    {"bus", "vehicle-bus"},
-    {"tram", "vehicle-bus"},
-    {"bicycle", "vehicle-bicycle"},
+    {"fuelpump", "emoji-travel"},
+    {"bus", "emoji-travel"},
+    {"tram", "emoji-travel"},
+    {"bicycle", "emoji-travel"},
     {"stethoscope", "applications-science"},
     {"pills", "applications-science"},
     {"figure.walk", "emoji-people"},
@@ -57,7 +56,17 @@ constexpr std::array<std::pair<std::string_view, const char*>, 44> table{{
     {"externaldrive.badge.timemachine", "drive-harddisk"},
     {"arrow.clockwise", "view-refresh"},
     {"bell", "preferences-system-notifications"},
-}};
+    {"list.bullet", "view-list"},
+    {"chart.pie", "x-office-spreadsheet"},
+    {"gauge", "accessories-calculator"},
+    {"magnifyingglass", "edit-find"},
+    {"target", "emblem-default"},
+    {"wand", "applications-engineering"},
+    {"tag", "bookmark-new"},
+    {"line.3.horizontal.decrease", "view-sort-ascending"},
+    {"paperclip", "mail-attachment"},
+    {"person", "avatar-default"},
+};
 
 const QIcon& fallbackIcon() {
     static const QIcon icon(QStringLiteral(":/icons/symbol-fallback.svg"));
@@ -65,6 +74,19 @@ const QIcon& fallbackIcon() {
 }
 
 }  // namespace
+
+void useDesktopIconTheme() {
+    if (!QIcon::themeName().isEmpty() && QIcon::themeName() != QLatin1String("hicolor")) return;
+    QStringList paths = QIcon::themeSearchPaths();
+    QString dataFolders = qEnvironmentVariable("XDG_DATA_DIRS");
+    if (dataFolders.isEmpty()) dataFolders = QStringLiteral("/usr/local/share:/usr/share");
+    for (const QString& folder : dataFolders.split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
+        const QString icons = folder + QStringLiteral("/icons");
+        if (!paths.contains(icons)) paths.append(icons);
+    }
+    QIcon::setThemeSearchPaths(paths);
+    QIcon::setThemeName(QStringLiteral("Adwaita"));
+}
 
 QString themeIconName(std::string_view symbolName) {
     for (const auto& [symbol, iconName] : table) {
@@ -78,7 +100,12 @@ QIcon symbolIcon(std::string_view symbolName) {
     const QString key = QString::fromUtf8(symbolName.data(), static_cast<qsizetype>(symbolName.size()));
     if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
     const QString iconName = themeIconName(symbolName);
-    QIcon icon = iconName.isEmpty() ? QIcon() : QIcon::fromTheme(iconName);
+    QIcon icon;
+    if (!iconName.isEmpty()) {
+        // Themes such as Adwaita keep many names only in their symbolic form.
+        icon = QIcon::fromTheme(iconName);
+        if (icon.isNull()) icon = QIcon::fromTheme(iconName + QStringLiteral("-symbolic"));
+    }
     if (icon.isNull()) icon = fallbackIcon();
     made.insert(key, icon);
     return icon;

@@ -15,4 +15,8 @@ namespace vantello::app {
 
 [[nodiscard]] QIcon symbolIcon(std::string_view symbolName);
 
+// Where the desktop gives no icon theme (a bare window manager, the offscreen platform), looks
+// for Adwaita in the freedesktop data folders ($XDG_DATA_DIRS/icons).
+void useDesktopIconTheme();
+
 }  // namespace vantello::app

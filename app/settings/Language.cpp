@@ -3,6 +3,7 @@
 #include "app/settings/AppLanguage.hpp"
 #include "app/settings/Preferences.hpp"
 #include "core/base/Localization.hpp"
+#include "core/base/PeopleFormat.hpp"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -36,8 +37,9 @@ InterfaceLanguage languageFor(const QVariant& preference, const QString& systemL
     return languageFor(appLanguageFor(preference), systemLocaleName);
 }
 
-InterfaceLanguage installInterfaceLanguage(QCoreApplication& application) {
-    const InterfaceLanguage language = languageFor(storedAppLanguage(Preferences()), QLocale::system().name());
+InterfaceLanguage installInterfaceLanguage(QCoreApplication& application, std::optional<InterfaceLanguage> forced) {
+    const InterfaceLanguage language =
+        forced.value_or(languageFor(storedAppLanguage(Preferences()), QLocale::system().name()));
     if (language == InterfaceLanguage::english) {
         auto* translator = new QTranslator(&application);
         if (translator->load(QStringLiteral(":/i18n/vantello_en.qm"))) {
@@ -46,6 +48,7 @@ InterfaceLanguage installInterfaceLanguage(QCoreApplication& application) {
     }
     installedLanguage = language;
     QLocale::setDefault(QLocale(QString::fromStdString(interfaceLocaleName())));
+    PeopleFormat::setDefaultLocale(interfaceLocaleName());
     L10n::install([](std::string_view key) {
         const std::string text(key);
         return QCoreApplication::translate(translationContext, text.c_str()).toStdString();

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
 #include <string>
 
 class QCoreApplication;
@@ -20,7 +21,9 @@ enum class InterfaceLanguage { italian, english };
 
 // Reads the preference, installs the Qt translator for the application and routes the core's
 // texts through it. Returns the language installed.
-InterfaceLanguage installInterfaceLanguage(QCoreApplication& application);
+// `forced`, when given, wins over the preference (screenshots in either language).
+InterfaceLanguage installInterfaceLanguage(QCoreApplication& application,
+                                           std::optional<InterfaceLanguage> forced = std::nullopt);
 
 // The language installed last (Italian before any), and the ICU/Qt locale name the screens
 // format amounts and dates with: "it_IT" or "en_US".

@@ -52,6 +52,11 @@ std::string utf8(const icu::UnicodeString& text) {
 
 }  // namespace
 
+void setDefaultLocale(const std::string& localeName) {
+    UErrorCode status = U_ZERO_ERROR;
+    icu::Locale::setDefault(icu::Locale(localeName.c_str()), status);
+}
+
 std::string euro(const Decimal& amount, const std::string& localeName) {
     UErrorCode status = U_ZERO_ERROR;
     const std::string digits = amount.description();

@@ -10,6 +10,10 @@
 
 namespace vantello::PeopleFormat {
 
+// The locale used where none is named: the interface language's ("it_IT", "en_US"), set once at
+// start, so that the messages the core builds speak like the screens around them.
+void setDefaultLocale(const std::string& localeName);
+
 // A currency amount in euros (ISO code EUR) in the ICU locale `localeName` ("it_IT", "en_US");
 // ICU's default locale when empty. The exact decimal goes to ICU as text, never as a double.
 [[nodiscard]] std::string euro(const Decimal& amount, const std::string& localeName = "");

@@ -1189,5 +1189,897 @@ off with that day and hour.
             <source>Prossimo promemoria dello stipendio: il {giorno} alle {ora}</source>
             <translation>Next salary reminder: on {giorno} at {ora}:00</translation>
         </message>
+        <message>
+            <source>0,00</source>
+            <translation>0.00</translation>
+        </message>
+        <message>
+            <source>1 EUR = {rate} {code} · cambio BCE del {day}</source>
+            <translation>1 EUR = {rate} {code} · ECB rate of {day}</translation>
+        </message>
+        <message>
+            <source>Aggiungi allegato</source>
+            <translation>Add attachment</translation>
+        </message>
+        <message>
+            <source>Aggiungi…</source>
+            <translation>Add…</translation>
+        </message>
+        <message>
+            <source>Allegati</source>
+            <translation>Attachments</translation>
+        </message>
+        <message>
+            <source>Annulla</source>
+            <translation>Cancel</translation>
+        </message>
+        <message>
+            <source>Apri</source>
+            <translation>Open</translation>
+        </message>
+        <message>
+            <source>Apri allegato</source>
+            <translation>Open attachment</translation>
+        </message>
+        <message>
+            <source>Conto</source>
+            <translation>Account</translation>
+        </message>
+        <message>
+            <source>Dividi con</source>
+            <translation>Split with</translation>
+        </message>
+        <message>
+            <source>Dividi in parti uguali</source>
+            <translation>Split equally</translation>
+        </message>
+        <message>
+            <source>Importo in euro</source>
+            <translation>Amount in euro</translation>
+        </message>
+        <message>
+            <source>Importo in valuta</source>
+            <translation>Amount in currency</translation>
+        </message>
+        <message>
+            <source>Modifica movimento</source>
+            <translation>Edit movement</translation>
+        </message>
+        <message>
+            <source>Nessun cambio BCE disponibile: scrivi l'importo in euro.</source>
+            <translation>No ECB rate available: type the amount in euro.</translation>
+        </message>
+        <message>
+            <source>Non hai ancora aggiunto nessuna persona.</source>
+            <translation>You have not added anyone yet.</translation>
+        </message>
+        <message>
+            <source>Non riesco ad aprire «{name}».</source>
+            <translation>Cannot open “{name}”.</translation>
+        </message>
+        <message>
+            <source>Nuovo movimento</source>
+            <translation>New movement</translation>
+        </message>
+        <message>
+            <source>Persona</source>
+            <translation>Person</translation>
+        </message>
+        <message>
+            <source>Quota</source>
+            <translation>Share</translation>
+        </message>
+        <message>
+            <source>Rimuovi</source>
+            <translation>Remove</translation>
+        </message>
+        <message>
+            <source>Rimuovi allegato</source>
+            <translation>Remove attachment</translation>
+        </message>
+        <message>
+            <source>Salva</source>
+            <translation>Save</translation>
+        </message>
+        <message>
+            <source>Scegli il file da allegare</source>
+            <translation>Choose the file to attach</translation>
+        </message>
+        <message>
+            <source>Scrivi l'importo in {code}, per esempio 250 o 250,00.</source>
+            <translation>Type the amount in {code}, for example 250 or 250.00.</translation>
+        </message>
+        <message>
+            <source>Scrivi la quota di {name}, per esempio 12,50.</source>
+            <translation>Type {name}'s share, for example 12.50.</translation>
+        </message>
+        <message>
+            <source>Scrivi un importo, per esempio 250 o 250,00.</source>
+            <translation>Type an amount, for example 250 or 250.00.</translation>
+        </message>
+        <message>
+            <source>Valuta</source>
+            <translation>Currency</translation>
+        </message>
+        <message>
+            <source>Verso il conto</source>
+            <translation>To account</translation>
+        </message>
+        <message>
+            <source>Anteprima dei movimenti</source>
+            <translation>Preview of the movements</translation>
+        </message>
+        <message>
+            <source>Barra verticale (|)</source>
+            <translation>Vertical bar (|)</translation>
+        </message>
+        <message>
+            <source>Colonna {number}</source>
+            <translation>Column {number}</translation>
+        </message>
+        <message>
+            <source>Colonne del file</source>
+            <translation>Columns of the file</translation>
+        </message>
+        <message>
+            <source>Conto in cui importare</source>
+            <translation>Account to import into</translation>
+        </message>
+        <message>
+            <source>Descrizione</source>
+            <translation>Description</translation>
+        </message>
+        <message>
+            <source>Importa</source>
+            <translation>Import</translation>
+        </message>
+        <message>
+            <source>Importa anche i movimenti ripetuti nel file</source>
+            <translation>Also import the movements repeated in the file</translation>
+        </message>
+        <message>
+            <source>Importa estratto conto</source>
+            <translation>Import bank statement</translation>
+        </message>
+        <message>
+            <source>Importati {count} movimenti</source>
+            <translation>Imported {count} movements</translation>
+        </message>
+        <message>
+            <source>Importato {count} movimento</source>
+            <translation>Imported {count} movement</translation>
+        </message>
+        <message>
+            <source>Nessun movimento importato</source>
+            <translation>No movement imported</translation>
+        </message>
+        <message>
+            <source>Nessun movimento nuovo da aggiungere</source>
+            <translation>No new movement to add</translation>
+        </message>
+        <message>
+            <source>Nessuna</source>
+            <translation>None</translation>
+        </message>
+        <message>
+            <source>Nessuna riga del file diventa un movimento: scegli le colonne giuste.</source>
+            <translation>No row of the file becomes a movement: choose the right columns.</translation>
+        </message>
+        <message>
+            <source>Non c'è un conto in cui importare.</source>
+            <translation>There is no account to import into.</translation>
+        </message>
+        <message>
+            <source>Non importata</source>
+            <translation>Not imported</translation>
+        </message>
+        <message>
+            <source>Punto e virgola (;)</source>
+            <translation>Semicolon (;)</translation>
+        </message>
+        <message>
+            <source>Riconosci i giroconti</source>
+            <translation>Recognise transfers</translation>
+        </message>
+        <message>
+            <source>Riga</source>
+            <translation>Row</translation>
+        </message>
+        <message>
+            <source>Riga {line}</source>
+            <translation>Row {line}</translation>
+        </message>
+        <message>
+            <source>Saranno aggiunti {count} movimenti</source>
+            <translation>{count} movements will be added</translation>
+        </message>
+        <message>
+            <source>Sarà aggiunto {count} movimento</source>
+            <translation>{count} movement will be added</translation>
+        </message>
+        <message>
+            <source>Tabulazione</source>
+            <translation>Tab</translation>
+        </message>
+        <message>
+            <source>Un movimento opposto dello stesso importo su un altro tuo conto, entro tre giorni, diventa un giroconto.</source>
+            <translation>An opposite movement of the same amount on another of your accounts, within three days, becomes a transfer.</translation>
+        </message>
+        <message>
+            <source>Usa le colonne proposte</source>
+            <translation>Use the suggested columns</translation>
+        </message>
+        <message>
+            <source>Usa le colonne proposte invece di quelle dell'ultima importazione</source>
+            <translation>Use the suggested columns instead of those of the last import</translation>
+        </message>
+        <message>
+            <source>Uso le colonne dell'ultima importazione da questa banca.</source>
+            <translation>Using the columns of the last import from this bank.</translation>
+        </message>
+        <message>
+            <source>Virgola (,)</source>
+            <translation>Comma (,)</translation>
+        </message>
+        <message>
+            <source>da una parola del nome</source>
+            <translation>from a word in the name</translation>
+        </message>
+        <message>
+            <source>dai dati della prima riga</source>
+            <translation>from the data of the first row</translation>
+        </message>
+        <message>
+            <source>dal nome della colonna</source>
+            <translation>from the column name</translation>
+        </message>
+        <message>
+            <source>dalla prima riga</source>
+            <translation>from the first line</translation>
+        </message>
+        <message>
+            <source>dalle colonne trovate</source>
+            <translation>from the columns found</translation>
+        </message>
+        <message>
+            <source>dalle date del file</source>
+            <translation>from the dates in the file</translation>
+        </message>
+        <message>
+            <source>dalle righe del file</source>
+            <translation>from the lines of the file</translation>
+        </message>
+        <message>
+            <source>nessuna trovata</source>
+            <translation>none found</translation>
+        </message>
+        <message>
+            <source>nomi nella prima riga</source>
+            <translation>names in the first row</translation>
+        </message>
+        <message>
+            <source>nomi trovati più in basso</source>
+            <translation>names found further down</translation>
+        </message>
+        <message>
+            <source>non trovata</source>
+            <translation>not found</translation>
+        </message>
+        <message>
+            <source>predefinito</source>
+            <translation>default</translation>
+        </message>
+        <message>
+            <source>scelta da te</source>
+            <translation>your choice</translation>
+        </message>
+        <message>
+            <source>sopra il primo movimento</source>
+            <translation>above the first movement</translation>
+        </message>
+        <message>
+            <source>{count} giroconti</source>
+            <translation>{count} transfers</translation>
+        </message>
+        <message>
+            <source>{count} giroconto</source>
+            <translation>{count} transfer</translation>
+        </message>
+        <message>
+            <source>{count} già presente</source>
+            <translation>{count} already present</translation>
+        </message>
+        <message>
+            <source>{count} già presenti</source>
+            <translation>{count} already present</translation>
+        </message>
+        <message>
+            <source>{count} movimenti da importare</source>
+            <translation>{count} movements to import</translation>
+        </message>
+        <message>
+            <source>{count} movimenti del file sono uguali a uno precedente dello stesso file (per esempio due biglietti dello stesso giorno): senza questa scelta ne viene importato uno solo.</source>
+            <translation>{count} movements of the file equal an earlier one of the same file (for example two tickets of the same day): without this choice only one is imported.</translation>
+        </message>
+        <message>
+            <source>{count} movimento da importare</source>
+            <translation>{count} movement to import</translation>
+        </message>
+        <message>
+            <source>{count} movimento del file è uguale a uno precedente dello stesso file (per esempio due biglietti dello stesso giorno): senza questa scelta ne viene importato uno solo.</source>
+            <translation>{count} movement of the file equals an earlier one of the same file (for example two tickets of the same day): without this choice only one is imported.</translation>
+        </message>
+        <message>
+            <source>{count} riga con un problema</source>
+            <translation>{count} row with a problem</translation>
+        </message>
+        <message>
+            <source>{count} riga non valida</source>
+            <translation>{count} invalid row</translation>
+        </message>
+        <message>
+            <source>{count} righe con un problema</source>
+            <translation>{count} rows with a problem</translation>
+        </message>
+        <message>
+            <source>{count} righe non valide</source>
+            <translation>{count} invalid rows</translation>
+        </message>
+        <message>
+            <source>{file} · {format}</source>
+            <translation>{file} · {format}</translation>
+        </message>
+        <message>
+            <source>Aggiungi entrata</source>
+            <translation>Add income</translation>
+        </message>
+        <message>
+            <source>Aggiungi il primo movimento</source>
+            <translation>Add your first movement</translation>
+        </message>
+        <message>
+            <source>Aggiungi movimento</source>
+            <translation>Add movement</translation>
+        </message>
+        <message>
+            <source>Aggiungi stipendio</source>
+            <translation>Add salary</translation>
+        </message>
+        <message>
+            <source>Aggiungi uscita</source>
+            <translation>Add expense</translation>
+        </message>
+        <message>
+            <source>Avvisi</source>
+            <translation>Alerts</translation>
+        </message>
+        <message>
+            <source>Con allegati</source>
+            <translation>With attachments</translation>
+        </message>
+        <message>
+            <source>Divisa con altre persone</source>
+            <translation>Shared with other people</translation>
+        </message>
+        <message>
+            <source>Duplica</source>
+            <translation>Duplicate</translation>
+        </message>
+        <message>
+            <source>Elimina</source>
+            <translation>Delete</translation>
+        </message>
+        <message>
+            <source>Elimina {count} movimenti</source>
+            <translation>Delete {count} movements</translation>
+        </message>
+        <message>
+            <source>Entrate</source>
+            <translation>Income</translation>
+        </message>
+        <message>
+            <source>Importa un estratto conto</source>
+            <translation>Import a bank statement</translation>
+        </message>
+        <message>
+            <source>Manca 1 giorno alla fine del mese</source>
+            <translation>1 day left in the month</translation>
+        </message>
+        <message>
+            <source>Mancano {days} giorni alla fine del mese</source>
+            <translation>{days} days left in the month</translation>
+        </message>
+        <message>
+            <source>Mese precedente</source>
+            <translation>Previous month</translation>
+        </message>
+        <message>
+            <source>Mese successivo</source>
+            <translation>Next month</translation>
+        </message>
+        <message>
+            <source>Modifica…</source>
+            <translation>Edit…</translation>
+        </message>
+        <message>
+            <source>Mostra un solo conto</source>
+            <translation>Show one account only</translation>
+        </message>
+        <message>
+            <source>Movimenti del mese</source>
+            <translation>Movements of the month</translation>
+        </message>
+        <message>
+            <source>Nasconde questo avviso per sempre</source>
+            <translation>Hides this alert for good</translation>
+        </message>
+        <message>
+            <source>Nascondi avviso</source>
+            <translation>Hide alert</translation>
+        </message>
+        <message>
+            <source>Nessun movimento in questo mese.</source>
+            <translation>No movements this month.</translation>
+        </message>
+        <message>
+            <source>Non mostrare più</source>
+            <translation>Don't show again</translation>
+        </message>
+        <message>
+            <source>Non mostrare più l'avviso «{title}»</source>
+            <translation>Don't show the alert “{title}” again</translation>
+        </message>
+        <message>
+            <source>Prova con dati di esempio</source>
+            <translation>Try with sample data</translation>
+        </message>
+        <message>
+            <source>Qui trovi le entrate e le uscite di ogni mese, giorno per giorno, con i totali e la stima di fine mese. Aggiungi il primo movimento, importa l'estratto conto della tua banca o prova l'app con dati di esempio.</source>
+            <translation>Here you find each month's income and expenses, day by day, with the totals and the month-end estimate. Add your first movement, import your bank's statement or try the app with sample data.</translation>
+        </message>
+        <message>
+            <source>Ricordamelo più tardi</source>
+            <translation>Remind me later</translation>
+        </message>
+        <message>
+            <source>Saldo del mese</source>
+            <translation>Month's net</translation>
+        </message>
+        <message>
+            <source>Saldo più basso previsto</source>
+            <translation>Lowest balance ahead</translation>
+        </message>
+        <message>
+            <source>Saldo previsto a fine mese: come è calcolato</source>
+            <translation>Expected month-end balance: how it is worked out</translation>
+        </message>
+        <message>
+            <source>Stima a fine mese</source>
+            <translation>Month-end estimate</translation>
+        </message>
+        <message>
+            <source>Torna al mese in corso</source>
+            <translation>Back to this month</translation>
+        </message>
+        <message>
+            <source>Tutti i conti</source>
+            <translation>All accounts</translation>
+        </message>
+        <message>
+            <source>Uscite</source>
+            <translation>Expenses</translation>
+        </message>
+        <message>
+            <source>il {day}</source>
+            <translation>on {day}</translation>
+        </message>
+        <message>
+            <source>{day}, saldo del giorno {amount}</source>
+            <translation>{day}, day's net {amount}</translation>
+        </message>
+        <message>
+            <source>{difference} rispetto a {month}</source>
+            <translation>{difference} compared with {month}</translation>
+        </message>
+        <message>
+            <source>Entrate e uscite del mese finora: {amount}</source>
+            <translation>Income and expenses of the month so far: {amount}</translation>
+        </message>
+        <message>
+            <source>Movimenti ricorrenti ancora previsti: {amount}</source>
+            <translation>Recurring movements still due: {amount}</translation>
+        </message>
+        <message>
+            <source>Spesa variabile stimata: {amount}</source>
+            <translation>Estimated variable spending: {amount}</translation>
+        </message>
+        <message>
+            <source>Saldo previsto a fine mese: {amount}</source>
+            <translation>Expected month-end balance: {amount}</translation>
+        </message>
+        <message>
+            <source>C'è un altro avviso.</source>
+            <translation>There is one more alert.</translation>
+        </message>
+        <message>
+            <source>Ci sono altri {count} avvisi.</source>
+            <translation>There are {count} more alerts.</translation>
+        </message>
+        <message>
+            <source>Aggiungi</source>
+            <translation>Add</translation>
+        </message>
+        <message>
+            <source>Aggiungi un movimento…</source>
+            <translation>Add a movement…</translation>
+        </message>
+        <message>
+            <source>Aggiunta rapida</source>
+            <translation>Quick add</translation>
+        </message>
+        <message>
+            <source>Aggiunto {importo} in {categoria}</source>
+            <translation>Added {importo} in {categoria}</translation>
+        </message>
+        <message>
+            <source>Apri Vantello</source>
+            <translation>Open Vantello</translation>
+        </message>
+        <message>
+            <source>Backup disponibili</source>
+            <translation>Available backups</translation>
+        </message>
+        <message>
+            <source>Backup in corso</source>
+            <translation>Backup in progress</translation>
+        </message>
+        <message>
+            <source>Cartella</source>
+            <translation>Folder</translation>
+        </message>
+        <message>
+            <source>Cognome</source>
+            <translation>Last name</translation>
+        </message>
+        <message>
+            <source>Eliminare la gestione {nome}?</source>
+            <translation>Delete the profile {nome}?</translation>
+        </message>
+        <message>
+            <source>Eliminare la gestione?</source>
+            <translation>Delete the profile?</translation>
+        </message>
+        <message>
+            <source>Elimina…</source>
+            <translation>Delete…</translation>
+        </message>
+        <message>
+            <source>Esci</source>
+            <translation>Quit</translation>
+        </message>
+        <message>
+            <source>Esegui un backup ora</source>
+            <translation>Back up now</translation>
+        </message>
+        <message>
+            <source>Famiglia</source>
+            <translation>Household</translation>
+        </message>
+        <message>
+            <source>Giorno del mese</source>
+            <translation>Day of the month</translation>
+        </message>
+        <message>
+            <source>I tuoi movimenti, conti e allegati</source>
+            <translation>Your movements, accounts and attachments</translation>
+        </message>
+        <message>
+            <source>Impostazioni</source>
+            <translation>Settings</translation>
+        </message>
+        <message>
+            <source>Le mie finanze</source>
+            <translation>My finances</translation>
+        </message>
+        <message>
+            <source>Mostra nella cartella</source>
+            <translation>Show in folder</translation>
+        </message>
+        <message>
+            <source>Movimenti e allegati di {nome} vanno nel Cestino, da cui puoi ancora recuperarli. I backup restano.</source>
+            <translation>The movements and attachments of {nome} go to the Trash, where you can still get them back. The backups stay.</translation>
+        </message>
+        <message>
+            <source>Movimenti e allegati di {owner} tornano com'erano il {date}. Prima Vantello fa un backup della situazione attuale, così puoi tornare indietro.</source>
+            <translation>The movements and attachments of {owner} go back to how they were on {date}. Vantello first backs up the current state, so you can go back.</translation>
+        </message>
+        <message>
+            <source>Nessuna cartella dei dati</source>
+            <translation>No data folder</translation>
+        </message>
+        <message>
+            <source>Nessuno</source>
+            <translation>None</translation>
+        </message>
+        <message>
+            <source>Nome</source>
+            <translation>First name</translation>
+        </message>
+        <message>
+            <source>Non riesco a riavviare Vantello: chiudilo e aprilo di nuovo.</source>
+            <translation>Vantello cannot restart itself: close it and open it again.</translation>
+        </message>
+        <message>
+            <source>Nuova gestione</source>
+            <translation>New profile</translation>
+        </message>
+        <message>
+            <source>Ora</source>
+            <translation>Hour</translation>
+        </message>
+        <message>
+            <source>Passa a questa</source>
+            <translation>Switch to it</translation>
+        </message>
+        <message>
+            <source>Promemoria dello stipendio</source>
+            <translation>Salary reminder</translation>
+        </message>
+        <message>
+            <source>Ricordami di registrare lo stipendio</source>
+            <translation>Remind me to record the salary</translation>
+        </message>
+        <message>
+            <source>Rinomina gestione</source>
+            <translation>Rename profile</translation>
+        </message>
+        <message>
+            <source>Rinomina…</source>
+            <translation>Rename…</translation>
+        </message>
+        <message>
+            <source>Ripristina</source>
+            <translation>Restore</translation>
+        </message>
+        <message>
+            <source>Ripristinare questo backup?</source>
+            <translation>Restore this backup?</translation>
+        </message>
+        <message>
+            <source>Ripristina…</source>
+            <translation>Restore…</translation>
+        </message>
+        <message>
+            <source>Scegli cartella…</source>
+            <translation>Choose folder…</translation>
+        </message>
+        <message>
+            <source>Scegli la cartella dei backup</source>
+            <translation>Choose the backup folder</translation>
+        </message>
+        <message>
+            <source>Tace nei mesi in cui lo stipendio è già registrato e nei periodi senza lavoro.</source>
+            <translation>Silent in months whose salary is already recorded and during periods without work.</translation>
+        </message>
+        <message>
+            <source>Tieni a parte i conti di un'altra persona o di una famiglia: ogni gestione ha movimenti, allegati e backup suoi.</source>
+            <translation>Keep the finances of another person or of a household apart: each profile has its own movements, attachments and backups.</translation>
+        </message>
+        <message>
+            <source>Ultimo backup</source>
+            <translation>Last backup</translation>
+        </message>
+        <message>
+            <source>Usa la cartella predefinita</source>
+            <translation>Use the default folder</translation>
+        </message>
+        <message>
+            <source>Vantello fa un backup al giorno di movimenti e allegati e tiene gli ultimi {n}. Scegli una cartella in una cartella sincronizzata o su un disco esterno per averli anche fuori da questo computer.</source>
+            <translation>Vantello backs up movements and attachments once a day and keeps the last {n}. Choose a folder in a synced folder or on an external disk to have them outside this computer too.</translation>
+        </message>
+        <message>
+            <source>le mie finanze</source>
+            <translation>my finances</translation>
+        </message>
+        <message>
+            <source>{nome} (in uso)</source>
+            <translation>{nome} (in use)</translation>
+        </message>
+        <message>
+            <source>Scrivi un importo maggiore di zero, per esempio 12,50.</source>
+            <translation>Enter an amount greater than zero, for example 12.50.</translation>
+        </message>
+        <message>
+            <source>Elimina movimento</source>
+            <translation>Delete movement</translation>
+        </message>
+        <message>
+            <source>Elimina movimenti</source>
+            <translation>Delete movements</translation>
+        </message>
+        <message>
+            <source>Duplica movimento</source>
+            <translation>Duplicate movement</translation>
+        </message>
+        <message>
+            <source>Gli allegati non sono disponibili.</source>
+            <translation>Attachments are not available.</translation>
+        </message>
+        <message>
+            <source>Non riesco ad allegare «{name}»: {reason}</source>
+            <translation>I can't attach “{name}”: {reason}</translation>
+        </message>
+        <message>
+            <source>Grafici</source>
+            <translation>Charts</translation>
+        </message>
+        <message>
+            <source>Cerca</source>
+            <translation>Search</translation>
+        </message>
+        <message>
+            <source>Obiettivi</source>
+            <translation>Goals</translation>
+        </message>
+        <message>
+            <source>Scenari</source>
+            <translation>Scenarios</translation>
+        </message>
+        <message>
+            <source>Patrimonio</source>
+            <translation>Wealth</translation>
+        </message>
+        <message>
+            <source>Spese condivise</source>
+            <translation>Shared expenses</translation>
+        </message>
+        <message>
+            <source>Categorie</source>
+            <translation>Categories</translation>
+        </message>
+        <message>
+            <source>Regole</source>
+            <translation>Rules</translation>
+        </message>
+        <message>
+            <source>Lavoro</source>
+            <translation>Work</translation>
+        </message>
+        <message>
+            <source>Ogni giorno</source>
+            <translation>Everyday</translation>
+        </message>
+        <message>
+            <source>Pianificazione</source>
+            <translation>Planning</translation>
+        </message>
+        <message>
+            <source>Avvisi e persone</source>
+            <translation>Alerts and people</translation>
+        </message>
+        <message>
+            <source>Impostazioni dei dati</source>
+            <translation>Data setup</translation>
+        </message>
+        <message>
+            <source>Chiudi il messaggio</source>
+            <translation>Close the message</translation>
+        </message>
+        <message>
+            <source>Errore</source>
+            <translation>Error</translation>
+        </message>
+        <message>
+            <source>Stai provando Vantello con dati di esempio: le modifiche non vengono salvate.</source>
+            <translation>You are trying Vantello with sample data: changes are not saved.</translation>
+        </message>
+        <message>
+            <source>Esci dalla prova</source>
+            <translation>Leave the demo</translation>
+        </message>
+        <message>
+            <source>Schermate</source>
+            <translation>Screens</translation>
+        </message>
+        <message>
+            <source>Gestione in uso</source>
+            <translation>Books in use</translation>
+        </message>
+        <message>
+            <source>Di chi sono i conti mostrati</source>
+            <translation>Whose accounts are shown</translation>
+        </message>
+        <message>
+            <source>Gestione</source>
+            <translation>Books</translation>
+        </message>
+        <message>
+            <source>&amp;File</source>
+            <translation>&amp;File</translation>
+        </message>
+        <message>
+            <source>Nuova uscita…</source>
+            <translation>New expense…</translation>
+        </message>
+        <message>
+            <source>Nuova entrata…</source>
+            <translation>New income…</translation>
+        </message>
+        <message>
+            <source>Importa estratto conto…</source>
+            <translation>Import statement…</translation>
+        </message>
+        <message>
+            <source>Esporta il mese…</source>
+            <translation>Export the month…</translation>
+        </message>
+        <message>
+            <source>Esporta tutti i movimenti…</source>
+            <translation>Export all movements…</translation>
+        </message>
+        <message>
+            <source>Impostazioni…</source>
+            <translation>Settings…</translation>
+        </message>
+        <message>
+            <source>&amp;Modifica</source>
+            <translation>&amp;Edit</translation>
+        </message>
+        <message>
+            <source>Ripeti</source>
+            <translation>Redo</translation>
+        </message>
+        <message>
+            <source>Movimento eliminato.</source>
+            <translation>Movement deleted.</translation>
+        </message>
+        <message>
+            <source>Eliminati {n} movimenti.</source>
+            <translation>{n} movements deleted.</translation>
+        </message>
+        <message>
+            <source>&amp;Vista</source>
+            <translation>&amp;View</translation>
+        </message>
+        <message>
+            <source>&amp;Aiuto</source>
+            <translation>&amp;Help</translation>
+        </message>
+        <message>
+            <source>Informazioni su Vantello</source>
+            <translation>About Vantello</translation>
+        </message>
+        <message>
+            <source>Vantello {version}\nI tuoi conti, solo su questo computer.</source>
+            <translation>Vantello {version}\nYour accounts, only on this computer.</translation>
+        </message>
+        <message>
+            <source>Estratti conto (*.csv *.txt *.ofx *.qfx *.qif *.xml);;Tutti i file (*)</source>
+            <translation>Statements (*.csv *.txt *.ofx *.qfx *.qif *.xml);;All files (*)</translation>
+        </message>
+        <message>
+            <source>Esporta movimenti</source>
+            <translation>Export movements</translation>
+        </message>
+        <message>
+            <source>File CSV (*.csv)</source>
+            <translation>CSV files (*.csv)</translation>
+        </message>
+        <message>
+            <source>Movimenti esportati in «{name}».</source>
+            <translation>Movements exported to “{name}”.</translation>
+        </message>
+        <message>
+            <source>Messaggi</source>
+            <translation>Messages</translation>
+        </message>
+        <message>
+            <source>Questa schermata arriva con la prossima versione di Vantello.</source>
+            <translation>This screen comes with the next version of Vantello.</translation>
+        </message>
+        <message>
+            <source>I tuoi conti, solo su questo computer.</source>
+            <translation>Your accounts, only on this computer.</translation>
+        </message>
     </context>
 </TS>

@@ -6,7 +6,7 @@
 #include "app/screens/ImportSheet.hpp"
 #include "app/screens/MessageBar.hpp"
 #include "app/screens/MovementsScreen.hpp"
-#include "app/screens/PendingScreen.hpp"
+#include "app/screens/ScreenFactory.hpp"
 #include "app/screens/SettingsWindow.hpp"
 #include "app/screens/TransactionEditor.hpp"
 #include "app/settings/ThemeApplication.hpp"
@@ -339,7 +339,7 @@ void MainWindow::showScreen(const QString& rawValue) {
             connect(movements_, &MovementsScreen::importRequested, this, &MainWindow::chooseImportFile);
             screen = movements_;
         } else {
-            screen = new PendingScreen(item, pages_);
+            screen = makeScreen(item, model(), pages_);
         }
         pages_->addWidget(screen);
     }

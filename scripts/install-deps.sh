@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
   build-essential cmake ninja-build pkg-config
   libgmp-dev libicu-dev nlohmann-json3-dev libexpat1-dev libcurl4-openssl-dev uuid-dev libsimdjson-dev
-  qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-charts-dev
+  qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-charts-dev libqt6opengl6-dev
   libgl-dev libqt6svg6 adwaita-icon-theme fonts-dejavu-core
   libgtest-dev libgmock-dev libbenchmark-dev
   clang

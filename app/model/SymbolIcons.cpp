@@ -1,6 +1,10 @@
 #include "app/model/SymbolIcons.hpp"
 
+#include <QGuiApplication>
 #include <QHash>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
 
 #include <utility>
 
@@ -73,6 +77,20 @@ const QIcon& fallbackIcon() {
     return icon;
 }
 
+QIcon tinted(const QIcon& icon, const QColor& colour) {
+    if (icon.isNull()) return icon;
+    QIcon result;
+    for (const int size : {16, 20, 24, 32, 48, 64}) {
+        QPixmap pixmap = icon.pixmap(size, size);
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), colour);
+        painter.end();
+        result.addPixmap(pixmap);
+    }
+    return result;
+}
+
 }  // namespace
 
 void useDesktopIconTheme() {
@@ -97,14 +115,19 @@ QString themeIconName(std::string_view symbolName) {
 
 QIcon symbolIcon(std::string_view symbolName) {
     static QHash<QString, QIcon> made;
-    const QString key = QString::fromUtf8(symbolName.data(), static_cast<qsizetype>(symbolName.size()));
+    // Symbolic icons are drawn in the text colour, so the key holds it: a change of theme makes
+    // them anew.
+    const QColor textColour = QGuiApplication::palette().color(QPalette::WindowText);
+    const QString key = QString::fromUtf8(symbolName.data(), static_cast<qsizetype>(symbolName.size())) +
+                        QLatin1Char('/') + textColour.name();
     if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
     const QString iconName = themeIconName(symbolName);
     QIcon icon;
     if (!iconName.isEmpty()) {
-        // Themes such as Adwaita keep many names only in their symbolic form.
         icon = QIcon::fromTheme(iconName);
-        if (icon.isNull()) icon = QIcon::fromTheme(iconName + QStringLiteral("-symbolic"));
+        // Themes such as Adwaita keep many names only in their symbolic form, drawn in one grey
+        // that a dark palette would hide.
+        if (icon.isNull()) icon = tinted(QIcon::fromTheme(iconName + QStringLiteral("-symbolic")), textColour);
     }
     if (icon.isNull()) icon = fallbackIcon();
     made.insert(key, icon);

@@ -243,7 +243,7 @@ ImportSheet::ImportSheet(LedgerViewModel& model, QWidget* parent)
     for (qsizetype index = 1; index < order.size(); ++index) setTabOrder(order[index - 1], order[index]);
 }
 
-QComboBox* ImportSheet::addOption(QGridLayout* grid, int row, int pair, const char* italianLabel,
+QComboBox* ImportSheet::addOption(QGridLayout* grid, int row, int pair, std::string_view italianLabel,
                                   const char* objectName, const std::string& rule) {
     auto* label = new QLabel(uiText(italianLabel), optionsBox_);
     auto* box = new QComboBox(optionsBox_);
@@ -275,17 +275,17 @@ void ImportSheet::buildOptions() {
     grid->setColumnStretch(3, 1);
     grid->setColumnMinimumWidth(2, 16);
 
-    separatorBox_ = addOption(grid, 0, 0, "Separatore", "importSeparatorBox", "separator");
-    headerBox_ = addOption(grid, 0, 1, "Riga delle intestazioni", "importHeaderBox", "headerRow");
-    dateColumnBox_ = addOption(grid, 1, 0, "Colonna della data", "importDateColumnBox", "dateColumn");
-    dateOrderBox_ = addOption(grid, 1, 1, "Formato della data", "importDateOrderBox", "dateOrder");
-    amountModeBox_ = addOption(grid, 2, 0, "Importi", "importAmountModeBox", "amountMode");
-    amountColumnBox_ = addOption(grid, 2, 1, "Colonna dell'importo", "importAmountColumnBox", "amountColumn");
-    incomeColumnBox_ = addOption(grid, 3, 0, "Colonna delle entrate", "importIncomeColumnBox", "incomeColumn");
-    expenseColumnBox_ = addOption(grid, 3, 1, "Colonna delle uscite", "importExpenseColumnBox", "expenseColumn");
+    separatorBox_ = addOption(grid, 0, 0, L10n::key("Separatore"), "importSeparatorBox", "separator");
+    headerBox_ = addOption(grid, 0, 1, L10n::key("Riga delle intestazioni"), "importHeaderBox", "headerRow");
+    dateColumnBox_ = addOption(grid, 1, 0, L10n::key("Colonna della data"), "importDateColumnBox", "dateColumn");
+    dateOrderBox_ = addOption(grid, 1, 1, L10n::key("Formato della data"), "importDateOrderBox", "dateOrder");
+    amountModeBox_ = addOption(grid, 2, 0, L10n::key("Importi"), "importAmountModeBox", "amountMode");
+    amountColumnBox_ = addOption(grid, 2, 1, L10n::key("Colonna dell'importo"), "importAmountColumnBox", "amountColumn");
+    incomeColumnBox_ = addOption(grid, 3, 0, L10n::key("Colonna delle entrate"), "importIncomeColumnBox", "incomeColumn");
+    expenseColumnBox_ = addOption(grid, 3, 1, L10n::key("Colonna delle uscite"), "importExpenseColumnBox", "expenseColumn");
     descriptionColumnBox_ =
-        addOption(grid, 4, 0, "Colonna della descrizione", "importDescriptionColumnBox", "descriptionColumn");
-    categoryColumnBox_ = addOption(grid, 4, 1, "Colonna della categoria", "importCategoryColumnBox", "categoryColumn");
+        addOption(grid, 4, 0, L10n::key("Colonna della descrizione"), "importDescriptionColumnBox", "descriptionColumn");
+    categoryColumnBox_ = addOption(grid, 4, 1, L10n::key("Colonna della categoria"), "importCategoryColumnBox", "categoryColumn");
 
     for (const auto order : allDateOrders) {
         dateOrderBox_->addItem(QString::fromStdString(label(order)), static_cast<int>(order));

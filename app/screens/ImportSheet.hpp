@@ -48,7 +48,7 @@ Q_SIGNALS:
 
 private:
     void buildOptions();
-    QComboBox* addOption(QGridLayout* grid, int row, int pair, const char* italianLabel, const char* objectName,
+    QComboBox* addOption(QGridLayout* grid, int row, int pair, std::string_view italianLabel, const char* objectName,
                          const std::string& rule);
     void setOptionVisible(QComboBox* box, bool visible);
     void refresh();                // everything from the session

@@ -2081,5 +2081,45 @@ off with that day and hour.
             <source>I tuoi conti, solo su questo computer.</source>
             <translation>Your accounts, only on this computer.</translation>
         </message>
+        <message>
+            <source>Separatore</source>
+            <translation>Separator</translation>
+        </message>
+        <message>
+            <source>Riga delle intestazioni</source>
+            <translation>Header row</translation>
+        </message>
+        <message>
+            <source>Colonna della data</source>
+            <translation>Date column</translation>
+        </message>
+        <message>
+            <source>Formato della data</source>
+            <translation>Date format</translation>
+        </message>
+        <message>
+            <source>Importi</source>
+            <translation>Amounts</translation>
+        </message>
+        <message>
+            <source>Colonna dell'importo</source>
+            <translation>Amount column</translation>
+        </message>
+        <message>
+            <source>Colonna delle entrate</source>
+            <translation>Income column</translation>
+        </message>
+        <message>
+            <source>Colonna delle uscite</source>
+            <translation>Expense column</translation>
+        </message>
+        <message>
+            <source>Colonna della descrizione</source>
+            <translation>Description column</translation>
+        </message>
+        <message>
+            <source>Colonna della categoria</source>
+            <translation>Category column</translation>
+        </message>
     </context>
 </TS>

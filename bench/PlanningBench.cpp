@@ -18,8 +18,38 @@ using bench::generatedLedger;
 
 const Calendar& rome = bench::romeCalendar();
 
+// The generated history with a few years of charges that come back: three monthly services (one
+// of them raising its price once) and a yearly one, so that detection has series to confirm.
+const Ledger& ledgerWithSubscriptions() {
+    static const Ledger ledger = [] {
+        LedgerData data = generatedLedger().data();
+        std::vector<Transaction> movements(data.transactions.begin(), data.transactions.end());
+        const struct {
+            const char* note;
+            std::int64_t cents;
+            std::int64_t raisedCents;
+            int everyMonths;
+        } services[]{{"Netflix", 1299, 1399, 1}, {"Spotify", 1099, 1099, 1}, {"Palestra", 4500, 4500, 1},
+                     {"Assicurazione casa", 18900, 18900, 12}};
+        for (const auto& service : services) {
+            for (int month = 0; month < 48; month += service.everyMonths) {
+                Transaction charge;
+                charge.id = Uuid::random();
+                charge.amount = Decimal(month < 30 ? service.cents : service.raisedCents, -2);
+                charge.date = *rome.adding(CalendarUnit::month, -month - 1, benchNow());
+                charge.categoryID = "abbonamenti";
+                charge.note = service.note;
+                movements.push_back(std::move(charge));
+            }
+        }
+        data.transactions = SharedList<Transaction>(std::move(movements));
+        return Ledger(std::move(data));
+    }();
+    return ledger;
+}
+
 void subscriptionDetection(benchmark::State& state) {
-    const Ledger& ledger = generatedLedger();
+    const Ledger& ledger = ledgerWithSubscriptions();
     std::size_t found = 0;
     for (auto _ : state) {
         const std::vector<DetectedSubscription> subscriptions = detectSubscriptions(ledger, rome);

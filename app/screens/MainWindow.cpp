@@ -1,12 +1,16 @@
 #include "app/screens/MainWindow.hpp"
 
 #include "app/model/DisplayText.hpp"
+#include "app/model/SearchActions.hpp"
 #include "app/model/SidebarItems.hpp"
 #include "app/model/SymbolIcons.hpp"
+#include "app/screens/ChartsScreen.hpp"
 #include "app/screens/ImportSheet.hpp"
 #include "app/screens/MessageBar.hpp"
 #include "app/screens/MovementsScreen.hpp"
 #include "app/screens/ScreenFactory.hpp"
+#include "app/screens/SearchNameDialog.hpp"
+#include "app/screens/SearchScreen.hpp"
 #include "app/screens/SettingsWindow.hpp"
 #include "app/screens/TransactionEditor.hpp"
 #include "app/settings/ThemeApplication.hpp"
@@ -22,6 +26,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -38,6 +43,7 @@ namespace {
 
 const QString geometryKey = QStringLiteral("mainWindowGeometry");
 constexpr int rawValueRole = Qt::UserRole;
+constexpr int savedSearchRole = Qt::UserRole + 1;
 
 // A coloured strip with a message, tinted with one of the palette's colours.
 QFrame* banner(const QString& objectName, const QColor& tint, QWidget* parent) {
@@ -176,8 +182,13 @@ QWidget* MainWindow::buildSidebar() {
     connect(sidebar_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* current) {
         if (!current) return;
         const QString raw = current->data(0, rawValueRole).toString();
-        if (!raw.isEmpty()) showScreen(raw);
+        if (raw.isEmpty()) return;
+        showScreen(raw);
+        const auto saved = Uuid::parse(current->data(0, savedSearchRole).toString().toStdString());
+        if (auto* search = qobject_cast<SearchScreen*>(currentScreen()); search && saved) search->runSavedSearch(*saved);
     });
+    sidebar_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(sidebar_, &QTreeWidget::customContextMenuRequested, this, &MainWindow::showSavedSearchMenu);
 
     profileChoice_ = new QComboBox(holder);
     profileChoice_->setObjectName(QStringLiteral("profileChoice"));
@@ -286,7 +297,9 @@ void MainWindow::followModel() {
         connect(current, &LedgerViewModel::importSessionChanged, this, &MainWindow::showImportSheet),
         connect(current, &LedgerViewModel::exportRequestChanged, this, &MainWindow::offerExport),
         connect(current, &LedgerViewModel::demoChanged, this, &MainWindow::refreshUndoActions),
+        connect(current, &LedgerViewModel::ledgerChanged, this, &MainWindow::refreshSavedSearches),
     };
+    refreshSavedSearches();
     refreshBanners();
     refreshUndoActions();
     refreshProfiles();
@@ -325,6 +338,49 @@ void MainWindow::refreshProfiles() {
                          : QStringLiteral("Vantello"));
 }
 
+void MainWindow::refreshSavedSearches() {
+    QTreeWidgetItem* searchItem = nullptr;
+    for (QTreeWidgetItemIterator it(sidebar_); *it; ++it) {
+        if ((*it)->data(0, rawValueRole).toString() == QLatin1String("search") &&
+            (*it)->data(0, savedSearchRole).isNull()) {
+            searchItem = *it;
+        }
+    }
+    if (!searchItem) return;
+    const QSignalBlocker quiet(sidebar_);
+    qDeleteAll(searchItem->takeChildren());
+    for (const SavedSearch& saved : model().ledger().data().savedSearches) {
+        auto* entry = new QTreeWidgetItem(searchItem, {QString::fromStdString(saved.name)});
+        entry->setData(0, rawValueRole, QStringLiteral("search"));
+        entry->setData(0, savedSearchRole, QString::fromStdString(saved.id.text()));
+        entry->setToolTip(0, uiText("Ricerca salvata: clic destro per rinominarla o eliminarla"));
+    }
+    searchItem->setExpanded(true);
+}
+
+void MainWindow::showSavedSearchMenu(const QPoint& position) {
+    QTreeWidgetItem* item = sidebar_->itemAt(position);
+    const auto id = item ? Uuid::parse(item->data(0, savedSearchRole).toString().toStdString()) : std::nullopt;
+    if (!id) return;
+    QMenu menu(this);
+    const QString name = item->text(0);
+    menu.addAction(uiText("Rinomina…"), this, [this, id, name] {
+        auto* dialog = new SearchNameDialog(
+            uiText("Rinomina ricerca"), uiText("Rinomina"), name,
+            [this, id](const QString& newName) { return renameSearch(model(), *id, newName); }, this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->open();
+    });
+    menu.addAction(uiText("Elimina…"), this, [this, id, name] {
+        const auto answer = QMessageBox::question(
+            this, uiText("Eliminare la ricerca?"),
+            uiText("La ricerca «{name}» sparisce dalla barra laterale; i movimenti restano.",
+                   {{"name", name.toStdString()}}));
+        if (answer == QMessageBox::Yes) deleteSearch(model(), *id);
+    });
+    menu.exec(sidebar_->viewport()->mapToGlobal(position));
+}
+
 // ---- screens
 
 void MainWindow::showScreen(const QString& rawValue) {
@@ -340,13 +396,23 @@ void MainWindow::showScreen(const QString& rawValue) {
             screen = movements_;
         } else {
             screen = makeScreen(item, model(), pages_);
+            if (auto* charts = qobject_cast<ChartsScreen*>(screen)) {
+                connect(charts, &ChartsScreen::newExpenseRequested, this,
+                        [this] { openNewMovement(TransactionKind::expense); });
+            }
+            if (auto* search = qobject_cast<SearchScreen*>(screen)) {
+                connect(search, &SearchScreen::editRequested, this, &MainWindow::openMovement);
+            }
         }
         pages_->addWidget(screen);
     }
     pages_->setCurrentWidget(screen);
     model().setSidebarSelection(item.rawValue);
+    // A saved search stays selected while the search screen shows it.
+    const QTreeWidgetItem* selected = sidebar_->currentItem();
+    if (selected && selected->data(0, rawValueRole).toString() == item.rawValue) return;
     for (QTreeWidgetItemIterator it(sidebar_); *it; ++it) {
-        if ((*it)->data(0, rawValueRole).toString() == item.rawValue && sidebar_->currentItem() != *it) {
+        if ((*it)->data(0, rawValueRole).toString() == item.rawValue && (*it)->data(0, savedSearchRole).isNull()) {
             const QSignalBlocker quiet(sidebar_);
             sidebar_->setCurrentItem(*it);
         }

@@ -65,6 +65,9 @@ private:
     void refreshBanners();
     void refreshUndoActions();
     void refreshProfiles();
+    // The saved searches under "Cerca", with rename and delete in their menu.
+    void refreshSavedSearches();
+    void showSavedSearchMenu(const QPoint& position);
     void offerExport();
     void showImportSheet();
     void announce(const QString& text, bool offersUndo);

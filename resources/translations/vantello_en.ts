@@ -2121,5 +2121,1621 @@ off with that day and hour.
             <source>Colonna della categoria</source>
             <translation>Category column</translation>
         </message>
+        <message>
+            <source>Altre ({count})</source>
+            <translation>Others ({count})</translation>
+        </message>
+        <message>
+            <source>Saldo netto</source>
+            <translation>Net</translation>
+        </message>
+        <message>
+            <source>Totale</source>
+            <translation>Total</translation>
+        </message>
+        <message>
+            <source>Mese</source>
+            <translation>Month</translation>
+        </message>
+        <message>
+            <source>Uscite per categoria</source>
+            <translation>Expenses by category</translation>
+        </message>
+        <message>
+            <source>Legenda</source>
+            <translation>Legend</translation>
+        </message>
+        <message>
+            <source>Andamento degli ultimi dodici mesi</source>
+            <translation>Last twelve months</translation>
+        </message>
+        <message>
+            <source>Nessuna uscita in questo mese: qui compaiono le spese divise per categoria.</source>
+            <translation>No expenses this month: this is where spending by category appears.</translation>
+        </message>
+        <message>
+            <source>Uscite del mese: {amount}</source>
+            <translation>Expenses this month: {amount}</translation>
+        </message>
+        <message>
+            <source>Quasi al limite</source>
+            <translation>Near the limit</translation>
+        </message>
+        <message>
+            <source>Superato</source>
+            <translation>Over budget</translation>
+        </message>
+        <message>
+            <source>{spent} di {budget}</source>
+            <translation>{spent} of {budget}</translation>
+        </message>
+        <message>
+            <source>Superato di {amount}</source>
+            <translation>Over by {amount}</translation>
+        </message>
+        <message>
+            <source>Restano {amount}</source>
+            <translation>{amount} left</translation>
+        </message>
+        <message>
+            <source>Spese senza budget: {amount}</source>
+            <translation>Spending without a budget: {amount}</translation>
+        </message>
+        <message>
+            <source>Scrivi l'importo del budget, per esempio 250,00.</source>
+            <translation>Type the budget amount, for example 250.00.</translation>
+        </message>
+        <message>
+            <source>Il budget deve essere maggiore di zero.</source>
+            <translation>The budget must be greater than zero.</translation>
+        </message>
+        <message>
+            <source>Imposta budget</source>
+            <translation>Set budget</translation>
+        </message>
+        <message>
+            <source>Rimuovi budget</source>
+            <translation>Remove budget</translation>
+        </message>
+        <message>
+            <source>Modifica budget</source>
+            <translation>Edit budget</translation>
+        </message>
+        <message>
+            <source>Budget mensile</source>
+            <translation>Monthly budget</translation>
+        </message>
+        <message>
+            <source>Quanto vuoi spendere al massimo ogni mese in questa categoria?</source>
+            <translation>How much do you want to spend at most each month in this category?</translation>
+        </message>
+        <message>
+            <source>Nessun budget: fissa quanto spendere al massimo ogni mese in una categoria.</source>
+            <translation>No budgets: set how much to spend at most each month in a category.</translation>
+        </message>
+        <message>
+            <source>Imposta il primo budget</source>
+            <translation>Set the first budget</translation>
+        </message>
+        <message>
+            <source>A questo ritmo: {data}</source>
+            <translation>At this pace: {data}</translation>
+        </message>
+        <message>
+            <source>Abbonamento</source>
+            <translation>Subscription</translation>
+        </message>
+        <message>
+            <source>Addebiti che tornano ogni settimana, mese o anno, trovati tra i movimenti.</source>
+            <translation>Charges that come back every week, month or year, found among your transactions.</translation>
+        </message>
+        <message>
+            <source>Aggiungi versamento</source>
+            <translation>Add contribution</translation>
+        </message>
+        <message>
+            <source>Al mese</source>
+            <translation>Per month</translation>
+        </message>
+        <message>
+            <source>All'anno</source>
+            <translation>Per year</translation>
+        </message>
+        <message>
+            <source>Aumentato da {prima}</source>
+            <translation>Up from {prima}</translation>
+        </message>
+        <message>
+            <source>Avanzamento di {nome}</source>
+            <translation>Progress of {nome}</translation>
+        </message>
+        <message>
+            <source>Avvisa quando il saldo di un conto scende sotto la cifra. Lascia vuoto per non ricevere avvisi.</source>
+            <translation>Warn when an account's balance falls below the amount. Leave empty for no alerts.</translation>
+        </message>
+        <message>
+            <source>Avvisi di oggi</source>
+            <translation>Today's alerts</translation>
+        </message>
+        <message>
+            <source>Cambiato da {prima}</source>
+            <translation>Changed from {prima}</translation>
+        </message>
+        <message>
+            <source>Cifra da raggiungere</source>
+            <translation>Target amount</translation>
+        </message>
+        <message>
+            <source>Crea il primo obiettivo</source>
+            <translation>Create your first goal</translation>
+        </message>
+        <message>
+            <source>Crea un movimento ricorrente dal prossimo addebito</source>
+            <translation>Create a recurring transaction from the next charge</translation>
+        </message>
+        <message>
+            <source>Elimina obiettivo</source>
+            <translation>Delete Goal</translation>
+        </message>
+        <message>
+            <source>Elimina versamento</source>
+            <translation>Delete Contribution</translation>
+        </message>
+        <message>
+            <source>Elimina {nome}</source>
+            <translation>Delete {nome}</translation>
+        </message>
+        <message>
+            <source>Eliminare «{nome}» e i suoi versamenti?</source>
+            <translation>Delete “{nome}” and its contributions?</translation>
+        </message>
+        <message>
+            <source>Entro una data</source>
+            <translation>By a date</translation>
+        </message>
+        <message>
+            <source>Fine</source>
+            <translation>Done</translation>
+        </message>
+        <message>
+            <source>Frequenza</source>
+            <translation>Frequency</translation>
+        </message>
+        <message>
+            <source>Ignora abbonamento</source>
+            <translation>Ignore Subscription</translation>
+        </message>
+        <message>
+            <source>Invariato</source>
+            <translation>Unchanged</translation>
+        </message>
+        <message>
+            <source>Mancano {cifra}</source>
+            <translation>{cifra} to go</translation>
+        </message>
+        <message>
+            <source>Mese diretto verso un saldo negativo</source>
+            <translation>Month heading for a negative balance</translation>
+        </message>
+        <message>
+            <source>Modifica obiettivo</source>
+            <translation>Edit Goal</translation>
+        </message>
+        <message>
+            <source>Modifica {nome}</source>
+            <translation>Edit {nome}</translation>
+        </message>
+        <message>
+            <source>Nascondi</source>
+            <translation>Dismiss</translation>
+        </message>
+        <message>
+            <source>Nascondi avviso: {titolo}</source>
+            <translation>Dismiss alert: {titolo}</translation>
+        </message>
+        <message>
+            <source>Nessun abbonamento trovato. Compariranno qui gli addebiti che si ripetono ogni settimana, mese o anno.</source>
+            <translation>No subscriptions found. Charges that repeat every week, month or year will appear here.</translation>
+        </message>
+        <message>
+            <source>Nessun avviso. Qui compaiono le spese insolite, i possibili addebiti doppi, i saldi sotto la soglia e i mesi diretti verso un saldo negativo.</source>
+            <translation>No alerts. Unusual spending, possible duplicate charges, balances below their threshold and months heading for a negative balance appear here.</translation>
+        </message>
+        <message>
+            <source>Nessun obiettivo.</source>
+            <translation>No goals.</translation>
+        </message>
+        <message>
+            <source>Nessun versamento ancora</source>
+            <translation>No contributions yet</translation>
+        </message>
+        <message>
+            <source>Nessun versamento registrato.</source>
+            <translation>No contributions recorded.</translation>
+        </message>
+        <message>
+            <source>Non mostrarlo più tra gli abbonamenti</source>
+            <translation>Don't show it among subscriptions again</translation>
+        </message>
+        <message>
+            <source>Non segnalare più questa situazione</source>
+            <translation>Don't report this situation again</translation>
+        </message>
+        <message>
+            <source>Non è un abbonamento</source>
+            <translation>Not a Subscription</translation>
+        </message>
+        <message>
+            <source>Notifica i nuovi avvisi sul desktop</source>
+            <translation>Notify new alerts on the desktop</translation>
+        </message>
+        <message>
+            <source>Nuovo obiettivo</source>
+            <translation>New Goal</translation>
+        </message>
+        <message>
+            <source>Nuovo obiettivo…</source>
+            <translation>New Goal…</translation>
+        </message>
+        <message>
+            <source>Ogni anno</source>
+            <translation>Every year</translation>
+        </message>
+        <message>
+            <source>Ogni mese</source>
+            <translation>Every month</translation>
+        </message>
+        <message>
+            <source>Ogni settimana</source>
+            <translation>Every week</translation>
+        </message>
+        <message>
+            <source>Per esempio: Vacanze</source>
+            <translation>For example: Holiday</translation>
+        </message>
+        <message>
+            <source>Possibili addebiti doppi</source>
+            <translation>Possible duplicate charges</translation>
+        </message>
+        <message>
+            <source>Prelievo</source>
+            <translation>Withdrawal</translation>
+        </message>
+        <message>
+            <source>Prelievo dall'obiettivo</source>
+            <translation>Withdraw from Goal</translation>
+        </message>
+        <message>
+            <source>Prezzo</source>
+            <translation>Price</translation>
+        </message>
+        <message>
+            <source>Prossimo</source>
+            <translation>Next</translation>
+        </message>
+        <message>
+            <source>Quali avvisi</source>
+            <translation>Which alerts</translation>
+        </message>
+        <message>
+            <source>Rendi ricorrente</source>
+            <translation>Make Recurring</translation>
+        </message>
+        <message>
+            <source>Rimuovi versamento</source>
+            <translation>Remove contribution</translation>
+        </message>
+        <message>
+            <source>Ritmo attuale: {cifra} al mese</source>
+            <translation>Current pace: {cifra} a month</translation>
+        </message>
+        <message>
+            <source>Saldo di un conto sotto la soglia</source>
+            <translation>An account's balance below its threshold</translation>
+        </message>
+        <message>
+            <source>Scadenza</source>
+            <translation>Deadline</translation>
+        </message>
+        <message>
+            <source>Scadenza: {data}</source>
+            <translation>Deadline: {data}</translation>
+        </message>
+        <message>
+            <source>Servono {cifra} al mese</source>
+            <translation>{cifra} a month needed</translation>
+        </message>
+        <message>
+            <source>Simbolo</source>
+            <translation>Symbol</translation>
+        </message>
+        <message>
+            <source>Soglia di saldo basso</source>
+            <translation>Low-Balance Threshold</translation>
+        </message>
+        <message>
+            <source>Soglia di saldo basso di {conto}</source>
+            <translation>Low-balance threshold of {conto}</translation>
+        </message>
+        <message>
+            <source>Soglie di saldo basso</source>
+            <translation>Low-balance thresholds</translation>
+        </message>
+        <message>
+            <source>Spese insolite per una categoria</source>
+            <translation>Unusual spending in a category</translation>
+        </message>
+        <message>
+            <source>Ultimo addebito</source>
+            <translation>Latest charge</translation>
+        </message>
+        <message>
+            <source>Versamenti di {nome}</source>
+            <translation>Contributions to {nome}</translation>
+        </message>
+        <message>
+            <source>Versamenti registrati</source>
+            <translation>Recorded contributions</translation>
+        </message>
+        <message>
+            <source>Versamenti: {nome}</source>
+            <translation>Contributions: {nome}</translation>
+        </message>
+        <message>
+            <source>Versamenti…</source>
+            <translation>Contributions…</translation>
+        </message>
+        <message>
+            <source>Versamento</source>
+            <translation>Deposit</translation>
+        </message>
+        <message>
+            <source>Versamento sull'obiettivo</source>
+            <translation>Deposit to Goal</translation>
+        </message>
+        <message>
+            <source>{messi} di {obiettivo}</source>
+            <translation>{messi} of {obiettivo}</translation>
+        </message>
+        <message>
+            <source>{numero} addebiti, l'ultimo il {data}</source>
+            <translation>{numero} charges, the latest on {data}</translation>
+        </message>
+        <message>
+            <source>«{nome}» non comparirà più tra gli abbonamenti.</source>
+            <translation>“{nome}” will no longer appear among subscriptions.</translation>
+        </message>
+        <message>
+            <source>«{nome}» è ora un movimento ricorrente.</source>
+            <translation>“{nome}” is now a recurring transaction.</translation>
+        </message>
+        <message>
+            <source>Aggiungi movimento ricorrente</source>
+            <translation>Add recurring movement</translation>
+        </message>
+        <message>
+            <source>Aggiungi regola</source>
+            <translation>Add rule</translation>
+        </message>
+        <message>
+            <source>Aggiungi un periodo senza lavoro</source>
+            <translation>Add a period without work</translation>
+        </message>
+        <message>
+            <source>Al lavoro: nessun periodo senza lavoro in corso.</source>
+            <translation>Working: no period without work in progress.</translation>
+        </message>
+        <message>
+            <source>Andrebbe in «{categoria}».</source>
+            <translation>It would go to “{categoria}”.</translation>
+        </message>
+        <message>
+            <source>Categoria risultante</source>
+            <translation>Resulting category</translation>
+        </message>
+        <message>
+            <source>Crea il primo movimento ricorrente</source>
+            <translation>Create the first recurring movement</translation>
+        </message>
+        <message>
+            <source>Crea la prima regola</source>
+            <translation>Create the first rule</translation>
+        </message>
+        <message>
+            <source>Dal</source>
+            <translation>From</translation>
+        </message>
+        <message>
+            <source>Dal conto</source>
+            <translation>From account</translation>
+        </message>
+        <message>
+            <source>Elimina movimento ricorrente</source>
+            <translation>Delete recurring movement</translation>
+        </message>
+        <message>
+            <source>Elimina regola</source>
+            <translation>Delete rule</translation>
+        </message>
+        <message>
+            <source>Eliminare il movimento ricorrente?</source>
+            <translation>Delete the recurring movement?</translation>
+        </message>
+        <message>
+            <source>Eliminare il periodo senza lavoro?</source>
+            <translation>Delete the period without work?</translation>
+        </message>
+        <message>
+            <source>Eliminare il periodo? Gli stipendi ricorrenti di quei giorni potranno essere registrati.</source>
+            <translation>Delete the period? Recurring salaries on those days may then be recorded.</translation>
+        </message>
+        <message>
+            <source>Eliminare la regola «{testo}»? I movimenti già archiviati restano nella loro categoria.</source>
+            <translation>Delete the rule “{testo}”? Movements already filed stay in their category.</translation>
+        </message>
+        <message>
+            <source>Eliminare la regola?</source>
+            <translation>Delete the rule?</translation>
+        </message>
+        <message>
+            <source>Eliminare «{nome}»? I movimenti già registrati restano.</source>
+            <translation>Delete “{nome}”? Movements already recorded stay.</translation>
+        </message>
+        <message>
+            <source>Fino al</source>
+            <translation>Until</translation>
+        </message>
+        <message>
+            <source>Giù</source>
+            <translation>Down</translation>
+        </message>
+        <message>
+            <source>Ho ripreso a lavorare</source>
+            <translation>I'm back at work</translation>
+        </message>
+        <message>
+            <source>I movimenti la cui nota contiene questo testo (maiuscole e accenti non contano) vanno nella categoria scelta.</source>
+            <translation>Movements whose note contains this text (case and accents don't matter) go to the chosen category.</translation>
+        </message>
+        <message>
+            <source>Il periodo è finito</source>
+            <translation>The period has ended</translation>
+        </message>
+        <message>
+            <source>In disoccupazione dal {data}</source>
+            <translation>Unemployed since {data}</translation>
+        </message>
+        <message>
+            <source>Modifica</source>
+            <translation>Edit</translation>
+        </message>
+        <message>
+            <source>Modifica movimento ricorrente</source>
+            <translation>Edit recurring movement</translation>
+        </message>
+        <message>
+            <source>Modifica periodo senza lavoro</source>
+            <translation>Edit period without work</translation>
+        </message>
+        <message>
+            <source>Modifica regola</source>
+            <translation>Edit rule</translation>
+        </message>
+        <message>
+            <source>Movimento</source>
+            <translation>Movement</translation>
+        </message>
+        <message>
+            <source>N.</source>
+            <translation>No.</translation>
+        </message>
+        <message>
+            <source>Nessun movimento ricorrente. Affitto, stipendio e abbonamenti qui si registrano da soli.</source>
+            <translation>No recurring movements. Rent, salary and subscriptions added here record themselves.</translation>
+        </message>
+        <message>
+            <source>Nessun periodo senza lavoro. Se resti senza lavoro, segnalalo qui: gli stipendi ricorrenti si fermano.</source>
+            <translation>No periods without work. If you are out of work, note it here: recurring salaries stop.</translation>
+        </message>
+        <message>
+            <source>Nessun promemoria in arrivo: lo stipendio è registrato o sei senza lavoro.</source>
+            <translation>No reminder coming up: the salary is recorded or you are out of work.</translation>
+        </message>
+        <message>
+            <source>Nessuna regola si applica: resterebbe in «{categoria}».</source>
+            <translation>No rule applies: it would stay in “{categoria}”.</translation>
+        </message>
+        <message>
+            <source>Nessuna regola. Con una regola i movimenti con «Esselunga» nella nota vanno da soli in Spesa.</source>
+            <translation>No rules. With a rule, movements with “Esselunga” in the note go to Groceries by themselves.</translation>
+        </message>
+        <message>
+            <source>Nota da provare</source>
+            <translation>Note to try</translation>
+        </message>
+        <message>
+            <source>Nuova regola</source>
+            <translation>New rule</translation>
+        </message>
+        <message>
+            <source>Nuova regola…</source>
+            <translation>New rule…</translation>
+        </message>
+        <message>
+            <source>Nuovo movimento ricorrente</source>
+            <translation>New recurring movement</translation>
+        </message>
+        <message>
+            <source>Nuovo movimento ricorrente…</source>
+            <translation>New recurring movement…</translation>
+        </message>
+        <message>
+            <source>Nuovo periodo senza lavoro</source>
+            <translation>New period without work</translation>
+        </message>
+        <message>
+            <source>Nuovo periodo…</source>
+            <translation>New period…</translation>
+        </message>
+        <message>
+            <source>Periodo senza lavoro in corso</source>
+            <translation>Period without work in progress</translation>
+        </message>
+        <message>
+            <source>Primo giorno senza lavoro</source>
+            <translation>First day without work</translation>
+        </message>
+        <message>
+            <source>Prossima volta</source>
+            <translation>Next time</translation>
+        </message>
+        <message>
+            <source>Prossimo promemoria</source>
+            <translation>Next reminder</translation>
+        </message>
+        <message>
+            <source>Prova una nota</source>
+            <translation>Try a note</translation>
+        </message>
+        <message>
+            <source>Scrivi la nota di un movimento</source>
+            <translation>Type a movement's note</translation>
+        </message>
+        <message>
+            <source>Scrivi una nota per vedere in quale categoria andrebbe.</source>
+            <translation>Type a note to see which category it would go to.</translation>
+        </message>
+        <message>
+            <source>Se la nota contiene</source>
+            <translation>If the note contains</translation>
+        </message>
+        <message>
+            <source>Senza ultimo giorno il periodo è in corso: gli stipendi ricorrenti si fermano finché non lo chiudi.</source>
+            <translation>Without a last day the period is in progress: recurring salaries stop until you close it.</translation>
+        </message>
+        <message>
+            <source>Sposta giù</source>
+            <translation>Move down</translation>
+        </message>
+        <message>
+            <source>Sposta regola</source>
+            <translation>Move rule</translation>
+        </message>
+        <message>
+            <source>Sposta su</source>
+            <translation>Move up</translation>
+        </message>
+        <message>
+            <source>Sposta su: la regola vale prima delle altre</source>
+            <translation>Move up: the rule applies before the others</translation>
+        </message>
+        <message>
+            <source>Stato delle notifiche</source>
+            <translation>Notification state</translation>
+        </message>
+        <message>
+            <source>Stipendio di questo mese</source>
+            <translation>This month's salary</translation>
+        </message>
+        <message>
+            <source>Su</source>
+            <translation>Up</translation>
+        </message>
+        <message>
+            <source>Terminato</source>
+            <translation>Ended</translation>
+        </message>
+        <message>
+            <source>Ultima data</source>
+            <translation>Last date</translation>
+        </message>
+        <message>
+            <source>Ultimo giorno senza lavoro</source>
+            <translation>Last day without work</translation>
+        </message>
+        <message>
+            <source>Ultimo stipendio</source>
+            <translation>Last salary</translation>
+        </message>
+        <message>
+            <source>Vale la prima regola della lista che trova il suo testo nella nota del movimento.</source>
+            <translation>The first rule in the list whose text is found in the movement's note applies.</translation>
+        </message>
+        <message>
+            <source>Vantello li registra da solo quando arriva la loro data.</source>
+            <translation>Vantello records them by itself when their date comes.</translation>
+        </message>
+        <message>
+            <source>per esempio Esselunga</source>
+            <translation>for example Esselunga</translation>
+        </message>
+        <message>
+            <source>{categoria} (entrata)</source>
+            <translation>{categoria} (income)</translation>
+        </message>
+        <message>
+            <source>L'importo minimo non è un importo valido.</source>
+            <translation>The minimum amount is not a valid amount.</translation>
+        </message>
+        <message>
+            <source>L'importo massimo non è un importo valido.</source>
+            <translation>The maximum amount is not a valid amount.</translation>
+        </message>
+        <message>
+            <source>L'importo minimo supera quello massimo.</source>
+            <translation>The minimum amount is above the maximum.</translation>
+        </message>
+        <message>
+            <source>La data iniziale viene dopo quella finale.</source>
+            <translation>The start date comes after the end date.</translation>
+        </message>
+        <message>
+            <source>con allegati</source>
+            <translation>with attachments</translation>
+        </message>
+        <message>
+            <source>Salva ricerca</source>
+            <translation>Save Search</translation>
+        </message>
+        <message>
+            <source>Rinomina ricerca</source>
+            <translation>Rename Search</translation>
+        </message>
+        <message>
+            <source>Elimina ricerca</source>
+            <translation>Delete Search</translation>
+        </message>
+        <message>
+            <source>Nome della ricerca</source>
+            <translation>Search name</translation>
+        </message>
+        <message>
+            <source>Per esempio: Spese per l'auto</source>
+            <translation>For example: Car expenses</translation>
+        </message>
+        <message>
+            <source>Cerca nelle note, nelle categorie o un importo</source>
+            <translation>Search notes, categories or an amount</translation>
+        </message>
+        <message>
+            <source>Salva ricerca…</source>
+            <translation>Save Search…</translation>
+        </message>
+        <message>
+            <source>Esporta CSV…</source>
+            <translation>Export CSV…</translation>
+        </message>
+        <message>
+            <source>Sempre</source>
+            <translation>Any time</translation>
+        </message>
+        <message>
+            <source>Questo mese</source>
+            <translation>This month</translation>
+        </message>
+        <message>
+            <source>Quest'anno</source>
+            <translation>This year</translation>
+        </message>
+        <message>
+            <source>Ultimi 12 mesi</source>
+            <translation>Last 12 months</translation>
+        </message>
+        <message>
+            <source>Dal… al…</source>
+            <translation>From… to…</translation>
+        </message>
+        <message>
+            <source>Entrate e uscite</source>
+            <translation>Income and expenses</translation>
+        </message>
+        <message>
+            <source>Solo uscite</source>
+            <translation>Expenses only</translation>
+        </message>
+        <message>
+            <source>Solo entrate</source>
+            <translation>Income only</translation>
+        </message>
+        <message>
+            <source>nessun limite</source>
+            <translation>no limit</translation>
+        </message>
+        <message>
+            <source>Solo con allegati</source>
+            <translation>Only with attachments</translation>
+        </message>
+        <message>
+            <source>Azzera filtri</source>
+            <translation>Clear Filters</translation>
+        </message>
+        <message>
+            <source>Periodo</source>
+            <translation>Period</translation>
+        </message>
+        <message>
+            <source>Al</source>
+            <translation>To</translation>
+        </message>
+        <message>
+            <source>Importo da</source>
+            <translation>Amount from</translation>
+        </message>
+        <message>
+            <source>a</source>
+            <translation>to</translation>
+        </message>
+        <message>
+            <source>Importo minimo</source>
+            <translation>Minimum amount</translation>
+        </message>
+        <message>
+            <source>Importo massimo</source>
+            <translation>Maximum amount</translation>
+        </message>
+        <message>
+            <source>Risultati della ricerca</source>
+            <translation>Search results</translation>
+        </message>
+        <message>
+            <source>Tutte le categorie</source>
+            <translation>All categories</translation>
+        </message>
+        <message>
+            <source>{count} categorie</source>
+            <translation>{count} categories</translation>
+        </message>
+        <message>
+            <source>1 movimento</source>
+            <translation>1 movement</translation>
+        </message>
+        <message>
+            <source>{count} movimenti</source>
+            <translation>{count} movements</translation>
+        </message>
+        <message>
+            <source>Entrate: {amount}</source>
+            <translation>Income: {amount}</translation>
+        </message>
+        <message>
+            <source>Uscite: {amount}</source>
+            <translation>Expenses: {amount}</translation>
+        </message>
+        <message>
+            <source>Saldo: {amount}</source>
+            <translation>Balance: {amount}</translation>
+        </message>
+        <message>
+            <source>Non c'è ancora nessun movimento da cercare: aggiungi il primo dalla schermata Movimenti.</source>
+            <translation>There are no movements to search yet: add the first one from the Movements screen.</translation>
+        </message>
+        <message>
+            <source>Nessun movimento corrisponde a queste condizioni. Togline qualcuna per vederne di più.</source>
+            <translation>No movement meets these conditions. Remove some to see more.</translation>
+        </message>
+        <message>
+            <source>Ricerca Vantello.csv</source>
+            <translation>Vantello search.csv</translation>
+        </message>
+        <message>
+            <source>Esporta i risultati</source>
+            <translation>Export the Results</translation>
+        </message>
+        <message>
+            <source>{number} %</source>
+            <translation>{number}%</translation>
+        </message>
+        <message>
+            <source>Spesa in {category}: {percent}</source>
+            <translation>Spending on {category}: {percent}</translation>
+        </message>
+        <message>
+            <source>Entrate: {percent}</source>
+            <translation>Income: {percent}</translation>
+        </message>
+        <message>
+            <source>Spesa fissa in più: {amount} al mese</source>
+            <translation>Extra fixed expense: {amount} a month</translation>
+        </message>
+        <message>
+            <source>Già raggiunto</source>
+            <translation>Already reached</translation>
+        </message>
+        <message>
+            <source>Non a questo ritmo</source>
+            <translation>Not at this pace</translation>
+        </message>
+        <message>
+            <source>{date} (prima)</source>
+            <translation>{date} (sooner)</translation>
+        </message>
+        <message>
+            <source>{date} (dopo)</source>
+            <translation>{date} (later)</translation>
+        </message>
+        <message>
+            <source>{goal}: senza lo scenario {baseline}, con lo scenario {scenario}</source>
+            <translation>{goal}: without the scenario {baseline}, with the scenario {scenario}</translation>
+        </message>
+        <message>
+            <source>Obiettivo</source>
+            <translation>Goal</translation>
+        </message>
+        <message>
+            <source>Senza lo scenario</source>
+            <translation>Without the scenario</translation>
+        </message>
+        <message>
+            <source>Con lo scenario</source>
+            <translation>With the scenario</translation>
+        </message>
+        <message>
+            <source>Risparmio al mese oggi</source>
+            <translation>Monthly savings today</translation>
+        </message>
+        <message>
+            <source>Entrate {income}, uscite {expenses}: media di {months} mesi</source>
+            <translation>Income {income}, expenses {expenses}: average of {months} months</translation>
+        </message>
+        <message>
+            <source>Risparmio al mese con lo scenario</source>
+            <translation>Monthly savings with the scenario</translation>
+        </message>
+        <message>
+            <source>Entrate {income}, uscite {expenses}</source>
+            <translation>Income {income}, expenses {expenses}</translation>
+        </message>
+        <message>
+            <source>Differenza in 12 mesi</source>
+            <translation>Difference in 12 months</translation>
+        </message>
+        <message>
+            <source>{scenario} invece di {baseline}</source>
+            <translation>{scenario} instead of {baseline}</translation>
+        </message>
+        <message>
+            <source>Scrivi la spesa in più di ogni mese, per esempio 50,00.</source>
+            <translation>Type the extra expense of each month, for example 50.00.</translation>
+        </message>
+        <message>
+            <source>Scegli una categoria di spesa.</source>
+            <translation>Choose an expense category.</translation>
+        </message>
+        <message>
+            <source>Scrivi una percentuale diversa da zero, per esempio −10 per spendere il 10 % in meno.</source>
+            <translation>Type a percentage other than zero, for example −10 to spend 10% less.</translation>
+        </message>
+        <message>
+            <source>Non si può togliere più del 100 %.</source>
+            <translation>You cannot take away more than 100%.</translation>
+        </message>
+        <message>
+            <source>E se…? Parti dalla media degli ultimi tre mesi completi, cambiala qui sotto e guarda cosa succede ai risparmi dei prossimi dodici mesi. Le modifiche non toccano i tuoi movimenti.</source>
+            <translation>What if…? Start from the average of the last three complete months, change it below and see what happens to the savings of the next twelve months. The changes do not touch your movements.</translation>
+        </message>
+        <message>
+            <source>Modifiche</source>
+            <translation>Changes</translation>
+        </message>
+        <message>
+            <source>Che cosa cambia</source>
+            <translation>What changes</translation>
+        </message>
+        <message>
+            <source>Spesa in una categoria</source>
+            <translation>Spending in a category</translation>
+        </message>
+        <message>
+            <source>Una spesa fissa in più</source>
+            <translation>An extra fixed expense</translation>
+        </message>
+        <message>
+            <source>Di quanto</source>
+            <translation>By how much</translation>
+        </message>
+        <message>
+            <source>Scenario in prova</source>
+            <translation>Scenario being tried</translation>
+        </message>
+        <message>
+            <source>Modifiche dello scenario</source>
+            <translation>Changes of the scenario</translation>
+        </message>
+        <message>
+            <source>Nessuna modifica: le due linee coincidono. Aggiungine una qui sopra.</source>
+            <translation>No changes: the two lines are the same. Add one above.</translation>
+        </message>
+        <message>
+            <source>Togli tutte</source>
+            <translation>Remove All</translation>
+        </message>
+        <message>
+            <source>Risparmi accumulati (€)</source>
+            <translation>Savings accumulated (€)</translation>
+        </message>
+        <message>
+            <source>Proiezione dei risparmi nei prossimi dodici mesi</source>
+            <translation>Projection of the savings over the next twelve months</translation>
+        </message>
+        <message>
+            <source>Quando raggiungi gli obiettivi</source>
+            <translation>When you reach your goals</translation>
+        </message>
+        <message>
+            <source>Nessun obiettivo di risparmio: creane uno nella schermata Obiettivi per vedere quando lo raggiungeresti.</source>
+            <translation>No savings goals: create one in the Goals screen to see when you would reach it.</translation>
+        </message>
+        <message>
+            <source>Per immaginare uno scenario serve almeno un mese completo di movimenti. Torna qui dopo aver registrato le entrate e le uscite di un mese.</source>
+            <translation>A scenario needs at least one complete month of movements. Come back after recording a month's income and expenses.</translation>
+        </message>
+        <message>
+            <source>%</source>
+            <translation>%</translation>
+        </message>
+        <message>
+            <source>€ al mese</source>
+            <translation>€ a month</translation>
+        </message>
+        <message>
+            <source>−10 per il 10 % in meno</source>
+            <translation>−10 for 10% less</translation>
+        </message>
+        <message>
+            <source>50,00</source>
+            <translation>50.00</translation>
+        </message>
+        <message>
+            <source>Percentuale</source>
+            <translation>Percentage</translation>
+        </message>
+        <message>
+            <source>Importo al mese</source>
+            <translation>Amount a month</translation>
+        </message>
+        <message>
+            <source>{month}: {baseline} senza, {scenario} con lo scenario</source>
+            <translation>{month}: {baseline} without, {scenario} with the scenario</translation>
+        </message>
+        <message>
+            <source>Etichetta</source>
+            <translation>Tag</translation>
+        </message>
+        <message>
+            <source>Carrello</source>
+            <translation>Cart</translation>
+        </message>
+        <message>
+            <source>Energia</source>
+            <translation>Energy</translation>
+        </message>
+        <message>
+            <source>Carburante</source>
+            <translation>Fuel</translation>
+        </message>
+        <message>
+            <source>Autobus</source>
+            <translation>Bus</translation>
+        </message>
+        <message>
+            <source>Bicicletta</source>
+            <translation>Bicycle</translation>
+        </message>
+        <message>
+            <source>Aereo</source>
+            <translation>Aeroplane</translation>
+        </message>
+        <message>
+            <source>Posate</source>
+            <translation>Cutlery</translation>
+        </message>
+        <message>
+            <source>Teatro</source>
+            <translation>Theatre</translation>
+        </message>
+        <message>
+            <source>Musica</source>
+            <translation>Music</translation>
+        </message>
+        <message>
+            <source>Televisione</source>
+            <translation>Television</translation>
+        </message>
+        <message>
+            <source>Videogiochi</source>
+            <translation>Video games</translation>
+        </message>
+        <message>
+            <source>Libro</source>
+            <translation>Book</translation>
+        </message>
+        <message>
+            <source>Scuola</source>
+            <translation>School</translation>
+        </message>
+        <message>
+            <source>Kit medico</source>
+            <translation>First aid kit</translation>
+        </message>
+        <message>
+            <source>Medicine</source>
+            <translation>Medicines</translation>
+        </message>
+        <message>
+            <source>Maglietta</source>
+            <translation>T-shirt</translation>
+        </message>
+        <message>
+            <source>Regalo</source>
+            <translation>Gift</translation>
+        </message>
+        <message>
+            <source>Cuore</source>
+            <translation>Heart</translation>
+        </message>
+        <message>
+            <source>Zampa</source>
+            <translation>Paw print</translation>
+        </message>
+        <message>
+            <source>Telefono</source>
+            <translation>Phone</translation>
+        </message>
+        <message>
+            <source>Internet</source>
+            <translation>Internet</translation>
+        </message>
+        <message>
+            <source>Valigetta</source>
+            <translation>Briefcase</translation>
+        </message>
+        <message>
+            <source>Banconota</source>
+            <translation>Banknote</translation>
+        </message>
+        <message>
+            <source>Euro</source>
+            <translation>Euro</translation>
+        </message>
+        <message>
+            <source>Altro</source>
+            <translation>Other</translation>
+        </message>
+        <message>
+            <source>Banca</source>
+            <translation>Bank</translation>
+        </message>
+        <message>
+            <source>Carta</source>
+            <translation>Card</translation>
+        </message>
+        <message>
+            <source>Contanti</source>
+            <translation>Cash</translation>
+        </message>
+        <message>
+            <source>Portafoglio</source>
+            <translation>Wallet</translation>
+        </message>
+        <message>
+            <source>predefinita</source>
+            <translation>built-in</translation>
+        </message>
+        <message>
+            <source>personale</source>
+            <translation>your own</translation>
+        </message>
+        <message>
+            <source>Aggiungi categoria</source>
+            <translation>Add Category</translation>
+        </message>
+        <message>
+            <source>Modifica categoria</source>
+            <translation>Edit Category</translation>
+        </message>
+        <message>
+            <source>Elimina categoria</source>
+            <translation>Delete Category</translation>
+        </message>
+        <message>
+            <source>Nuova categoria</source>
+            <translation>New Category</translation>
+        </message>
+        <message>
+            <source>Nome della categoria</source>
+            <translation>Category name</translation>
+        </message>
+        <message>
+            <source>Icona della categoria</source>
+            <translation>Category icon</translation>
+        </message>
+        <message>
+            <source>Icona attuale</source>
+            <translation>Current icon</translation>
+        </message>
+        <message>
+            <source>Tipo di categoria</source>
+            <translation>Category type</translation>
+        </message>
+        <message>
+            <source>Icona</source>
+            <translation>Icon</translation>
+        </message>
+        <message>
+            <source>Per</source>
+            <translation>For</translation>
+        </message>
+        <message>
+            <source>Le categorie predefinite non si possono modificare né eliminare; crea le tue con «Nuova categoria».</source>
+            <translation>Built-in categories cannot be changed or deleted; create your own with “New Category”.</translation>
+        </message>
+        <message>
+            <source>Categorie di uscita</source>
+            <translation>Expense categories</translation>
+        </message>
+        <message>
+            <source>Categorie di entrata</source>
+            <translation>Income categories</translation>
+        </message>
+        <message>
+            <source>Nessun movimento usa questa categoria.</source>
+            <translation>No movement uses this category.</translation>
+        </message>
+        <message>
+            <source>1 movimento passerà alla categoria «{fallback}».</source>
+            <translation>1 movement will move to the category “{fallback}”.</translation>
+        </message>
+        <message>
+            <source>{count} movimenti passeranno alla categoria «{fallback}».</source>
+            <translation>{count} movements will move to the category “{fallback}”.</translation>
+        </message>
+        <message>
+            <source>Eliminare la categoria «{name}»?</source>
+            <translation>Delete the category “{name}”?</translation>
+        </message>
+        <message>
+            <source>Categoria «{name}» eliminata.</source>
+            <translation>Category “{name}” deleted.</translation>
+        </message>
+        <message>
+            <source>Saldo {amount}</source>
+            <translation>Balance {amount}</translation>
+        </message>
+        <message>
+            <source>nessuna</source>
+            <translation>none</translation>
+        </message>
+        <message>
+            <source>Saldo</source>
+            <translation>Balance</translation>
+        </message>
+        <message>
+            <source>Avviso sotto</source>
+            <translation>Warn below</translation>
+        </message>
+        <message>
+            <source>Il saldo iniziale non è un importo valido.</source>
+            <translation>The opening balance is not a valid amount.</translation>
+        </message>
+        <message>
+            <source>La soglia di saldo basso non è un importo valido.</source>
+            <translation>The low-balance threshold is not a valid amount.</translation>
+        </message>
+        <message>
+            <source>Aggiungi conto</source>
+            <translation>Add Account</translation>
+        </message>
+        <message>
+            <source>Modifica conto</source>
+            <translation>Edit Account</translation>
+        </message>
+        <message>
+            <source>Elimina conto</source>
+            <translation>Delete Account</translation>
+        </message>
+        <message>
+            <source>Nuovo conto</source>
+            <translation>New Account</translation>
+        </message>
+        <message>
+            <source>Nome del conto</source>
+            <translation>Account name</translation>
+        </message>
+        <message>
+            <source>Icona del conto</source>
+            <translation>Account icon</translation>
+        </message>
+        <message>
+            <source>Saldo iniziale</source>
+            <translation>Opening balance</translation>
+        </message>
+        <message>
+            <source>Avvisami quando il saldo scende sotto</source>
+            <translation>Warn me when the balance falls below</translation>
+        </message>
+        <message>
+            <source>nessun avviso</source>
+            <translation>no warning</translation>
+        </message>
+        <message>
+            <source>Importi come «1.250,00». Lascia vuota la soglia per non ricevere avvisi.</source>
+            <translation>Amounts like “1,250.00”. Leave the threshold empty for no warnings.</translation>
+        </message>
+        <message>
+            <source>Nessun movimento usa questo conto.</source>
+            <translation>No movement uses this account.</translation>
+        </message>
+        <message>
+            <source>1 movimento passerà al conto principale.</source>
+            <translation>1 movement will move to the main account.</translation>
+        </message>
+        <message>
+            <source>{count} movimenti passeranno al conto principale.</source>
+            <translation>{count} movements will move to the main account.</translation>
+        </message>
+        <message>
+            <source>1 giroconto con il conto principale diventerà una normale uscita.</source>
+            <translation>1 transfer with the main account will become an ordinary expense.</translation>
+        </message>
+        <message>
+            <source>{count} giroconti con il conto principale diventeranno normali uscite.</source>
+            <translation>{count} transfers with the main account will become ordinary expenses.</translation>
+        </message>
+        <message>
+            <source>Il saldo di oggi di ogni conto: saldo iniziale più entrate, meno uscite, più e meno i giroconti. Il conto principale non si può eliminare.</source>
+            <translation>Each account's balance today: opening balance plus income, minus expenses, plus and minus transfers. The main account cannot be deleted.</translation>
+        </message>
+        <message>
+            <source>Eliminare il conto «{name}»?</source>
+            <translation>Delete the account “{name}”?</translation>
+        </message>
+        <message>
+            <source>Conto «{name}» eliminato.</source>
+            <translation>Account “{name}” deleted.</translation>
+        </message>
+        <message>
+            <source>Conto «{name}» eliminato: 1 movimento spostato sul conto principale.</source>
+            <translation>Account “{name}” deleted: 1 movement moved to the main account.</translation>
+        </message>
+        <message>
+            <source>Conto «{name}» eliminato: {count} movimenti spostati sul conto principale.</source>
+            <translation>Account “{name}” deleted: {count} movements moved to the main account.</translation>
+        </message>
+        <message>
+            <source>3,5</source>
+            <translation>3.5</translation>
+        </message>
+        <message>
+            <source>Aggiorna valore</source>
+            <translation>Update value</translation>
+        </message>
+        <message>
+            <source>Aggiorna valore di {name}</source>
+            <translation>Update the value of {name}</translation>
+        </message>
+        <message>
+            <source>Aggiorna valore…</source>
+            <translation>Update Value…</translation>
+        </message>
+        <message>
+            <source>Aggiungi persona</source>
+            <translation>Add person</translation>
+        </message>
+        <message>
+            <source>Aggiungi persona…</source>
+            <translation>Add Person…</translation>
+        </message>
+        <message>
+            <source>Anche la rata ricorrente sarà eliminata; i movimenti già registrati restano.</source>
+            <translation>Its recurring instalment is deleted too; the movements already recorded stay.</translation>
+        </message>
+        <message>
+            <source>Bene</source>
+            <translation>Asset</translation>
+        </message>
+        <message>
+            <source>Capitale</source>
+            <translation>Capital</translation>
+        </message>
+        <message>
+            <source>Capitale da restituire</source>
+            <translation>Capital still owed</translation>
+        </message>
+        <message>
+            <source>Categoria della rata</source>
+            <translation>Category of the instalment</translation>
+        </message>
+        <message>
+            <source>Chiudi</source>
+            <translation>Close</translation>
+        </message>
+        <message>
+            <source>Conti {accounts} · Beni {assets} · Debiti {debts}</source>
+            <translation>Accounts {accounts} · Assets {assets} · Debts {debts}</translation>
+        </message>
+        <message>
+            <source>Conto da cui si paga</source>
+            <translation>Account it is paid from</translation>
+        </message>
+        <message>
+            <source>Dal giorno</source>
+            <translation>From</translation>
+        </message>
+        <message>
+            <source>Devi {amount}</source>
+            <translation>You owe {amount}</translation>
+        </message>
+        <message>
+            <source>Effetto sul saldo</source>
+            <translation>Effect on the balance</translation>
+        </message>
+        <message>
+            <source>Elimina bene</source>
+            <translation>Delete asset</translation>
+        </message>
+        <message>
+            <source>Elimina persona</source>
+            <translation>Delete person</translation>
+        </message>
+        <message>
+            <source>Elimina prestito</source>
+            <translation>Delete loan</translation>
+        </message>
+        <message>
+            <source>Eliminare il bene «{name}»?</source>
+            <translation>Delete the asset “{name}”?</translation>
+        </message>
+        <message>
+            <source>Eliminare il prestito «{name}»?</source>
+            <translation>Delete the loan “{name}”?</translation>
+        </message>
+        <message>
+            <source>Eliminare {name}?</source>
+            <translation>Delete {name}?</translation>
+        </message>
+        <message>
+            <source>Importo prestato</source>
+            <translation>Amount borrowed</translation>
+        </message>
+        <message>
+            <source>In pari</source>
+            <translation>Settled up</translation>
+        </message>
+        <message>
+            <source>Interessi</source>
+            <translation>Interest</translation>
+        </message>
+        <message>
+            <source>Le sue quote escono dai movimenti e i saldi registrati con questa persona sono eliminati.</source>
+            <translation>Their shares leave the movements and the settlements recorded with this person are deleted.</translation>
+        </message>
+        <message>
+            <source>Le sue valutazioni non conteranno più nel patrimonio.</source>
+            <translation>Its valuations will no longer count in your net worth.</translation>
+        </message>
+        <message>
+            <source>Mai</source>
+            <translation>Never</translation>
+        </message>
+        <message>
+            <source>Modifica bene</source>
+            <translation>Edit asset</translation>
+        </message>
+        <message>
+            <source>Modifica prestito</source>
+            <translation>Edit loan</translation>
+        </message>
+        <message>
+            <source>Nei movimenti</source>
+            <translation>In movements</translation>
+        </message>
+        <message>
+            <source>Nessun bene. Aggiungi la casa, l'auto o gli investimenti per contarli nel patrimonio.</source>
+            <translation>No assets. Add your home, car or investments to count them in your net worth.</translation>
+        </message>
+        <message>
+            <source>Nessun prestito. Aggiungi un mutuo o un finanziamento per seguirne le rate.</source>
+            <translation>No loans. Add a mortgage or a loan to follow its instalments.</translation>
+        </message>
+        <message>
+            <source>Nessuna persona. Aggiungi chi divide le spese con te per sapere chi deve a chi.</source>
+            <translation>No people. Add whoever shares expenses with you to know who owes whom.</translation>
+        </message>
+        <message>
+            <source>Nessuna spesa divisa né saldo con questa persona.</source>
+            <translation>No shared expenses or settlements with this person.</translation>
+        </message>
+        <message>
+            <source>Non registrata</source>
+            <translation>Not recorded</translation>
+        </message>
+        <message>
+            <source>Numero di rate mensili</source>
+            <translation>Number of monthly instalments</translation>
+        </message>
+        <message>
+            <source>Nuovo bene</source>
+            <translation>New asset</translation>
+        </message>
+        <message>
+            <source>Nuovo bene…</source>
+            <translation>New Asset…</translation>
+        </message>
+        <message>
+            <source>Nuovo prestito</source>
+            <translation>New loan</translation>
+        </message>
+        <message>
+            <source>Nuovo prestito…</source>
+            <translation>New Loan…</translation>
+        </message>
+        <message>
+            <source>Nuovo valore</source>
+            <translation>New value</translation>
+        </message>
+        <message>
+            <source>Patrimonio netto</source>
+            <translation>Net worth</translation>
+        </message>
+        <message>
+            <source>Patrimonio netto negli ultimi dodici mesi</source>
+            <translation>Net worth over the last twelve months</translation>
+        </message>
+        <message>
+            <source>Piano di ammortamento</source>
+            <translation>Repayment plan</translation>
+        </message>
+        <message>
+            <source>Piano di ammortamento: {name}</source>
+            <translation>Repayment plan: {name}</translation>
+        </message>
+        <message>
+            <source>Piano di ammortamento…</source>
+            <translation>Repayment Plan…</translation>
+        </message>
+        <message>
+            <source>Prestito</source>
+            <translation>Loan</translation>
+        </message>
+        <message>
+            <source>Prima rata</source>
+            <translation>First instalment</translation>
+        </message>
+        <message>
+            <source>Rata</source>
+            <translation>Instalment</translation>
+        </message>
+        <message>
+            <source>Rata mensile</source>
+            <translation>Monthly instalment</translation>
+        </message>
+        <message>
+            <source>Rata ricorrente</source>
+            <translation>Recurring instalment</translation>
+        </message>
+        <message>
+            <source>Rata {payment} · Interessi totali {interest}</source>
+            <translation>Instalment {payment} · Total interest {interest}</translation>
+        </message>
+        <message>
+            <source>Rate mensili</source>
+            <translation>Monthly instalments</translation>
+        </message>
+        <message>
+            <source>Rate pagate</source>
+            <translation>Instalments paid</translation>
+        </message>
+        <message>
+            <source>Registra la rata</source>
+            <translation>Record Instalment</translation>
+        </message>
+        <message>
+            <source>Registra la rata come movimento ricorrente</source>
+            <translation>Record the instalment as a recurring movement</translation>
+        </message>
+        <message>
+            <source>Registra le rate</source>
+            <translation>Record instalments</translation>
+        </message>
+        <message>
+            <source>Residuo</source>
+            <translation>Remaining</translation>
+        </message>
+        <message>
+            <source>Salda</source>
+            <translation>Settle up</translation>
+        </message>
+        <message>
+            <source>Salda con {name}</source>
+            <translation>Settle up with {name}</translation>
+        </message>
+        <message>
+            <source>Salda il conto con la persona</source>
+            <translation>Settle up with the person</translation>
+        </message>
+        <message>
+            <source>Salda…</source>
+            <translation>Settle Up…</translation>
+        </message>
+        <message>
+            <source>Saldo attuale</source>
+            <translation>Current balance</translation>
+        </message>
+        <message>
+            <source>Scrivi il tasso annuo in percentuale, per esempio 3,5.</source>
+            <translation>Type the yearly rate in percent, for example 3.5.</translation>
+        </message>
+        <message>
+            <source>Storico</source>
+            <translation>History</translation>
+        </message>
+        <message>
+            <source>Storico con {name}</source>
+            <translation>History with {name}</translation>
+        </message>
+        <message>
+            <source>Tasso annuo (%)</source>
+            <translation>Yearly rate (%)</translation>
+        </message>
+        <message>
+            <source>Ti deve {amount}</source>
+            <translation>Owes you {amount}</translation>
+        </message>
+        <message>
+            <source>Tipo di movimento</source>
+            <translation>Kind of entry</translation>
+        </message>
+        <message>
+            <source>Valore</source>
+            <translation>Value</translation>
+        </message>
+        <message>
+            <source>Valore attuale</source>
+            <translation>Current value</translation>
+        </message>
+        <message>
+            <source>Valutato il</source>
+            <translation>Valued on</translation>
+        </message>
+        <message>
+            <source>{made} di {total}</source>
+            <translation>{made} of {total}</translation>
+        </message>
+        <message>
+            <source>Ricerca salvata: clic destro per rinominarla o eliminarla</source>
+            <translation>Saved search: right-click to rename or delete it</translation>
+        </message>
+        <message>
+            <source>Rinomina</source>
+            <translation>Rename</translation>
+        </message>
+        <message>
+            <source>Eliminare la ricerca?</source>
+            <translation>Delete the search?</translation>
+        </message>
+        <message>
+            <source>La ricerca «{name}» sparisce dalla barra laterale; i movimenti restano.</source>
+            <translation>The search “{name}” leaves the sidebar; the movements stay.</translation>
+        </message>
     </context>
 </TS>

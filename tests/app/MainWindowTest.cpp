@@ -3,9 +3,11 @@
 // bar, a profile switch rebuilds the screens on the new data, and the window speaks the chosen
 // language.
 
+#include "app/model/SearchActions.hpp"
 #include "app/model/SidebarItems.hpp"
 #include "app/screens/MainWindow.hpp"
 #include "app/screens/MovementsScreen.hpp"
+#include "app/screens/SearchScreen.hpp"
 #include "app/screens/TransactionEditor.hpp"
 #include "app/settings/Language.hpp"
 #include "core/base/Localization.hpp"
@@ -15,6 +17,7 @@
 #include <QComboBox>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTreeWidget>
 #include <QtTest>
 
 using namespace vantello;
@@ -65,6 +68,25 @@ private Q_SLOTS:
         // A new window (the next start) opens on the screen last shown.
         MainWindow next(desk.profiles, desk.preferences);
         QCOMPARE(next.currentScreen()->objectName(), window.currentScreen()->objectName());
+    }
+
+    void savedSearchesSitUnderSearchAndOpenIt() {
+        Desk desk;
+        desk.profiles.model().enterDemo();
+        MainWindow window(desk.profiles, desk.preferences);
+        window.show();
+        TransactionFilter filter;
+        filter.text = "Esselunga";
+        QVERIFY(!saveSearchAs(desk.profiles.model(), QStringLiteral("Spesa Esselunga"), filter));
+        auto* sidebar = window.findChild<QTreeWidget*>(QStringLiteral("sidebar"));
+        const auto found = sidebar->findItems(QStringLiteral("Spesa Esselunga"), Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(found.size(), 1);
+        QCOMPARE(found.front()->parent()->text(0), QString::fromStdString(L10n::tr("Cerca")));
+        sidebar->setCurrentItem(found.front());
+        QVERIFY(qobject_cast<SearchScreen*>(window.currentScreen()));
+        QCOMPARE(sidebar->currentItem(), found.front());
+        deleteSearch(desk.profiles.model(), desk.profiles.model().ledger().data().savedSearches.front().id);
+        QVERIFY(sidebar->findItems(QStringLiteral("Spesa Esselunga"), Qt::MatchExactly | Qt::MatchRecursive).isEmpty());
     }
 
     void shortcutsMoveTheMonthAndOpenTheEditor() {

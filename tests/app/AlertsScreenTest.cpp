@@ -1,0 +1,210 @@
+// The alerts screen on the demo ledger with a frozen day: today's alerts, a kind switched off,
+// a dismissal, the low-balance threshold and the notifications switch.
+
+// Qt's headers come first: moc cannot read the standard library's <concepts> before them.
+#include <QApplication>
+#include <QCheckBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+#include "app/model/DisplayText.hpp"
+#include "app/model/LedgerViewModel.hpp"
+#include "app/screens/AlertsScreen.hpp"
+#include "app/settings/Language.hpp"
+#include "app/settings/ThemeApplication.hpp"
+#include "core/ledger/AccountIDs.hpp"
+
+#include <algorithm>
+
+using namespace vantello;
+using namespace vantello::app;
+
+namespace {
+
+const Calendar rome("Europe/Rome");
+
+Instant noon(int year, int month, int day) { return *rome.date({year, month, day}, 12); }
+
+struct Workplace {
+    QTemporaryDir home;
+    std::filesystem::path folder = std::filesystem::path(home.path().toStdString()) / "Vantello";
+    Preferences preferences{home.path() + QStringLiteral("/Vantello.conf")};
+
+    std::unique_ptr<LedgerViewModel> model() {
+        return std::make_unique<LedgerViewModel>(LedgerViewModel::Setup{
+            folder, std::nullopt, rome, [] { return noon(2026, 3, 18); }, &preferences, folder / "Backup"});
+    }
+};
+
+template <typename Widget>
+Widget* part(const QWidget& parent, const char* name) {
+    auto* found = parent.findChild<Widget*>(QString::fromLatin1(name));
+    if (!found) qFatal("no widget named %s", name);
+    return found;
+}
+
+QStringList shownTitles(const QWidget& screen) {
+    QStringList titles;
+    for (const QLabel* title : screen.findChildren<QLabel*>(QStringLiteral("alertTitle"))) titles << title->text();
+    return titles;
+}
+
+QStringList modelTitles(LedgerViewModel& model) {
+    QStringList titles;
+    for (const SmartAlert& alert : model.alerts()) titles << QString::fromStdString(alert.title);
+    return titles;
+}
+
+// The Italian texts in another language, read from "italian<TAB>translation" lines, for looking
+// at a rendering before the catalogue has them.
+class TableTranslator : public QTranslator {
+public:
+    explicit TableTranslator(const QString& file) {
+        QFile table(file);
+        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
+        while (!table.atEnd()) {
+            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
+            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
+        }
+    }
+    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
+        return texts_.value(QString::fromUtf8(source));
+    }
+    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
+
+private:
+    QHash<QString, QString> texts_;
+};
+
+}  // namespace
+
+class AlertsScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QApplication::setOrganizationName(QStringLiteral("Vantello"));
+        QApplication::setApplicationName(QStringLiteral("Vantello"));
+        QSettings().remove(QStringLiteral("language"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+    }
+
+    void kindSwitchedOffLeavesTheList() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        AlertsScreen screen(*model);
+        QVERIFY(!model->alerts().empty());
+        QCOMPARE(shownTitles(screen), modelTitles(*model));
+        QCOMPARE(part<QStackedWidget>(screen, "alertsPages")->currentIndex(), 1);
+
+        const SmartAlert::Kind kind = model->alerts().front().kind;
+        const auto ofKind = [&] {
+            return std::count_if(model->alerts().begin(), model->alerts().end(),
+                                 [&](const SmartAlert& alert) { return alert.kind == kind; });
+        };
+        const auto before = model->alerts().size();
+        const auto removed = ofKind();
+        QCheckBox* toggle = nullptr;
+        for (QCheckBox* box : screen.findChildren<QCheckBox*>()) {
+            if (box->text() == alertKindText(kind)) toggle = box;
+        }
+        QVERIFY(toggle && toggle->isChecked());
+        toggle->click();
+
+        QVERIFY(!model->alertSettings().isEnabled(kind));
+        QCOMPARE(ofKind(), 0);
+        QCOMPARE(model->alerts().size(), before - std::size_t(removed));
+        QCOMPARE(shownTitles(screen), modelTitles(*model));
+
+        // Settings changed elsewhere show on the switch.
+        model->setAlertSettings(AlertSettings{});
+        QVERIFY(toggle->isChecked());
+        QCOMPARE(shownTitles(screen), modelTitles(*model));
+    }
+
+    void dismissedAlertStaysAway() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        AlertsScreen screen(*model);
+        const std::string id = model->alerts().front().id;
+        const auto before = model->alerts().size();
+        part<QPushButton>(screen, "dismissAlertButton")->click();
+        QCOMPARE(model->alerts().size(), before - 1);
+        QVERIFY(model->ledger().data().dismissedAlerts.contains(id));
+        QCOMPARE(shownTitles(screen), modelTitles(*model));
+    }
+
+    void thresholdAndNotifications() {
+        Workplace place;
+        auto model = place.model();
+        AlertsScreen screen(*model);
+        QCOMPARE(part<QStackedWidget>(screen, "alertsPages")->currentIndex(), 0);
+
+        auto* threshold = part<QLineEdit>(screen, "thresholdEdit");
+        auto* error = part<QLabel>(screen, "thresholdError");
+        threshold->setText(QStringLiteral("poco"));
+        Q_EMIT threshold->editingFinished();
+        QVERIFY(error->isVisibleTo(&screen));
+        QVERIFY(!model->ledger().account(mainAccountID)->lowBalanceThreshold);
+
+        // An empty ledger is at zero, under a threshold of 100: the alert appears.
+        threshold->setText(QStringLiteral("100,00"));
+        Q_EMIT threshold->editingFinished();
+        QVERIFY(!error->isVisibleTo(&screen));
+        QCOMPARE(model->ledger().account(mainAccountID)->lowBalanceThreshold, Decimal::fromCanonical("100"));
+        QCOMPARE(shownTitles(screen), modelTitles(*model));
+        QVERIFY(!model->alerts().empty());
+
+        threshold->clear();
+        Q_EMIT threshold->editingFinished();
+        QVERIFY(!model->ledger().account(mainAccountID)->lowBalanceThreshold);
+
+        auto* notify = part<QCheckBox>(screen, "alertNotificationsSwitch");
+        QCOMPARE(notify->isChecked(), model->alertNotifications());
+        notify->click();
+        QCOMPARE(model->alertNotifications(), notify->isChecked());
+    }
+
+    // Renders the screen in both languages and themes when VANTELLO_SCREENSHOTS names a folder;
+    // VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the catalogue lacks.
+    void rendersForLookingAt() {
+        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
+        if (folder.isEmpty()) QSKIP("no folder for screenshots");
+        Workplace place;
+        for (const bool english : {false, true}) {
+            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
+            installInterfaceLanguage(*QCoreApplication::instance());
+            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
+            if (english) QCoreApplication::installTranslator(&extra);
+            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
+                applyTheme(theme);
+                auto model = place.model();
+                model->enterDemo();
+                AlertsScreen screen(*model);
+                screen.resize(900, 820);
+                screen.show();
+                QVERIFY(QTest::qWaitForWindowExposed(&screen));
+                QTest::qWait(20);
+                QVERIFY(screen.grab().save(QStringLiteral("%1/alerts-%2-%3.png")
+                                               .arg(folder, english ? QStringLiteral("en") : QStringLiteral("it"),
+                                                    theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"))));
+            }
+            QCoreApplication::removeTranslator(&extra);
+        }
+        QSettings().remove(QStringLiteral("language"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+        applyTheme(AppTheme::system);
+    }
+};
+
+QTEST_MAIN(AlertsScreenTest)
+#include "AlertsScreenTest.moc"

@@ -1,0 +1,227 @@
+// The goals screen on the demo ledger with a frozen day: the cards, a contribution recorded
+// through the screen, the core's messages inside the sheets, the empty state and a new goal.
+
+// Qt's headers come first: moc cannot read the standard library's <concepts> before them.
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+#include "app/model/DisplayText.hpp"
+#include "app/model/GoalContributionsModel.hpp"
+#include "app/model/GoalListModel.hpp"
+#include "app/model/LedgerViewModel.hpp"
+#include "app/screens/GoalDialogs.hpp"
+#include "app/screens/GoalsScreen.hpp"
+#include "app/settings/Language.hpp"
+#include "app/settings/ThemeApplication.hpp"
+#include "core/planning/GoalProgress.hpp"
+
+using namespace vantello;
+using namespace vantello::app;
+
+namespace {
+
+const Calendar rome("Europe/Rome");
+
+Instant noon(int year, int month, int day) { return *rome.date({year, month, day}, 12); }
+
+struct Workplace {
+    QTemporaryDir home;
+    std::filesystem::path folder = std::filesystem::path(home.path().toStdString()) / "Vantello";
+    Preferences preferences{home.path() + QStringLiteral("/Vantello.conf")};
+
+    std::unique_ptr<LedgerViewModel> model() {
+        return std::make_unique<LedgerViewModel>(LedgerViewModel::Setup{
+            folder, std::nullopt, rome, [] { return noon(2026, 3, 18); }, &preferences, folder / "Backup"});
+    }
+};
+
+template <typename Widget>
+Widget* part(const QWidget& parent, const char* name) {
+    auto* found = parent.findChild<Widget*>(QString::fromLatin1(name));
+    if (!found) qFatal("no widget named %s", name);
+    return found;
+}
+
+QString cardText(const QWidget& screen, const char* name) { return part<QLabel>(screen, name)->text(); }
+
+// The Italian texts in another language, read from "italian<TAB>translation" lines, for looking
+// at a rendering before the catalogue has them.
+class TableTranslator : public QTranslator {
+public:
+    explicit TableTranslator(const QString& file) {
+        QFile table(file);
+        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
+        while (!table.atEnd()) {
+            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
+            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
+        }
+    }
+    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
+        return texts_.value(QString::fromUtf8(source));
+    }
+    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
+
+private:
+    QHash<QString, QString> texts_;
+};
+
+}  // namespace
+
+class GoalsScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QApplication::setOrganizationName(QStringLiteral("Vantello"));
+        QApplication::setApplicationName(QStringLiteral("Vantello"));
+        QSettings().remove(QStringLiteral("language"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+    }
+
+    void demoGoalCardShowsWhatTheCoreDerives() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        GoalsScreen screen(*model);
+        screen.resize(720, 520);
+        QCOMPARE(part<QStackedWidget>(screen, "goalsPages")->currentIndex(), 1);
+        QCOMPARE(screen.findChildren<QWidget*>(QStringLiteral("goalCard")).size(), 1);
+
+        const SavingsGoal& goal = model->ledger().data().savingsGoals.front();
+        const GoalProgress progress = goalProgress(goal, model->now(), rome);
+        QVERIFY(cardText(screen, "goalSaved").startsWith(euroText(progress.saved)));
+        QVERIFY(cardText(screen, "goalSaved").endsWith(euroText(goal.target)));
+        QVERIFY(cardText(screen, "goalStatus") == goalStatusText(progress.status));
+        QVERIFY(progress.monthlyAmountNeeded);
+        QVERIFY(cardText(screen, "goalDetails").contains(euroText(*progress.monthlyAmountNeeded)));
+        const QJsonObject row = screen.listModel().rowsAsJson().first().toObject();
+        QCOMPARE(row[QStringLiteral("name")].toString(), QStringLiteral("Vacanze in Sardegna"));
+
+    }
+
+    void contributionThroughTheSheetChangesTheSavedAmount() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        GoalsScreen screen(*model);
+        const Decimal before = model->ledger().data().savingsGoals.front().saved();
+
+        part<QPushButton>(screen, "goalContributionsButton")->click();
+        auto* sheet = part<GoalContributionDialog>(screen, "goalContributionDialog");
+        QVERIFY(sheet->isVisible());
+        const int recorded = sheet->contributions().rowCount();
+        auto* amount = part<QLineEdit>(*sheet, "contributionAmountEdit");
+        auto* error = part<QLabel>(*sheet, "goalError");
+
+        // Text that is no amount, then a withdrawal beyond what is saved: the sheet says why.
+        amount->setText(QStringLiteral("tanti"));
+        part<QPushButton>(*sheet, "addContributionButton")->click();
+        QVERIFY(error->isVisibleTo(sheet) && error->text().contains(QStringLiteral("tanti")));
+        part<QRadioButton>(*sheet, "withdrawalRadio")->setChecked(true);
+        amount->setText(QStringLiteral("99.999,00"));
+        part<QPushButton>(*sheet, "addContributionButton")->click();
+        QCOMPARE(error->text(), uiText("Non puoi ritirare più di quanto hai messo da parte."));
+        QVERIFY(sheet->isVisible());
+        QCOMPARE(model->ledger().data().savingsGoals.front().saved(), before);
+
+        part<QRadioButton>(*sheet, "depositRadio")->setChecked(true);
+        amount->setText(QStringLiteral("1.000,50"));
+        QTest::keyClick(amount, Qt::Key_Return);
+        QVERIFY(!error->isVisibleTo(sheet));
+        const Decimal after = model->ledger().data().savingsGoals.front().saved();
+        QCOMPARE(after, before + *Decimal::fromCanonical("1000.50"));
+        QCOMPARE(sheet->contributions().rowCount(), recorded + 1);
+        QVERIFY(cardText(screen, "goalSaved").startsWith(euroText(after)));
+
+        // Undo takes the deposit back, and the card follows.
+        model->undo();
+        QVERIFY(cardText(screen, "goalSaved").startsWith(euroText(before)));
+        QTest::keyClick(sheet, Qt::Key_Escape);
+        QVERIFY(!sheet->isVisible());
+    }
+
+    void emptyLedgerOffersTheFirstGoal() {
+        Workplace place;
+        auto model = place.model();
+        GoalsScreen screen(*model);
+        screen.resize(640, 400);
+        QCOMPARE(part<QStackedWidget>(screen, "goalsPages")->currentIndex(), 0);
+
+        part<QPushButton>(screen, "firstGoalButton")->click();
+        auto* editor = part<GoalEditor>(screen, "goalEditor");
+        auto* error = part<QLabel>(*editor, "goalError");
+        part<QLineEdit>(*editor, "goalTargetEdit")->setText(QStringLiteral("500"));
+        part<QPushButton>(*editor, "goalSaveButton")->click();
+        QCOMPARE(error->text(), uiText("Scrivi un nome per l'obiettivo."));
+        QVERIFY(editor->isVisible());
+
+        part<QLineEdit>(*editor, "goalNameEdit")->setText(QStringLiteral("  Bici nuova "));
+        part<QPushButton>(*editor, "goalSaveButton")->click();
+        QVERIFY(!editor->isVisible());
+        QCOMPARE(model->ledger().data().savingsGoals.size(), std::size_t(1));
+        QCOMPARE(model->ledger().data().savingsGoals.front().name, std::string("Bici nuova"));
+        QCOMPARE(part<QStackedWidget>(screen, "goalsPages")->currentIndex(), 1);
+        QCOMPARE(cardText(screen, "goalStatus"), goalStatusText(GoalStatus::noDeadline));
+    }
+
+    // Renders the screen, its empty state and the contributions sheet in both languages and
+    // themes when VANTELLO_SCREENSHOTS names a folder; VANTELLO_SCREENSHOT_TEXTS may name a table
+    // of English texts the catalogue lacks.
+    void rendersForLookingAt() {
+        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
+        if (folder.isEmpty()) QSKIP("no folder for screenshots");
+        Workplace place;
+        for (const bool english : {false, true}) {
+            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
+            installInterfaceLanguage(*QCoreApplication::instance());
+            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
+            if (english) QCoreApplication::installTranslator(&extra);
+            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
+                applyTheme(theme);
+                const QString suffix = QStringLiteral("%1-%2").arg(
+                    english ? QStringLiteral("en") : QStringLiteral("it"),
+                    theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
+                for (const bool demo : {true, false}) {
+                    auto model = place.model();
+                    if (demo) model->enterDemo();
+                    GoalsScreen screen(*model);
+                    screen.resize(760, 420);
+                    screen.show();
+                    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+                    QTest::qWait(20);
+                    QVERIFY(screen.grab().save(QStringLiteral("%1/goals-%2-%3.png")
+                                                   .arg(folder, demo ? QStringLiteral("demo") : QStringLiteral("empty"), suffix)));
+                    if (!demo) continue;
+                    part<QPushButton>(screen, "goalContributionsButton")->click();
+                    auto* sheet = part<GoalContributionDialog>(screen, "goalContributionDialog");
+                    QVERIFY(QTest::qWaitForWindowExposed(sheet));
+                    QVERIFY(sheet->grab().save(QStringLiteral("%1/goals-sheet-%2.png").arg(folder, suffix)));
+                    sheet->reject();
+                    part<QPushButton>(screen, "editGoalButton")->click();
+                    auto* editor = part<GoalEditor>(screen, "goalEditor");
+                    QVERIFY(QTest::qWaitForWindowExposed(editor));
+                    QVERIFY(editor->grab().save(QStringLiteral("%1/goals-editor-%2.png").arg(folder, suffix)));
+                    editor->reject();
+                }
+            }
+            QCoreApplication::removeTranslator(&extra);
+        }
+        QSettings().remove(QStringLiteral("language"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+        applyTheme(AppTheme::system);
+    }
+};
+
+QTEST_MAIN(GoalsScreenTest)
+#include "GoalsScreenTest.moc"

@@ -1,0 +1,265 @@
+// The recurring movements screen on the demo ledger: each rule with its next date, adding one
+// through the editor (bad amounts and the core's refusals shown inside it), and deleting one
+// after a question.
+
+// Qt's headers come first: moc cannot read the standard library's <concepts> before them.
+#include <QApplication>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QFile>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QTreeView>
+#include <QtTest>
+
+#include "app/model/DisplayText.hpp"
+#include "app/model/LedgerViewModel.hpp"
+#include "app/model/RecurringRulesModel.hpp"
+#include "core/ledger/AmountParser.hpp"
+#include "app/screens/RecurringEditor.hpp"
+#include "app/screens/RecurringScreen.hpp"
+#include "app/settings/AppTheme.hpp"
+#include "app/settings/Language.hpp"
+#include "app/settings/ThemeApplication.hpp"
+
+#include <algorithm>
+
+using namespace vantello;
+using namespace vantello::app;
+
+namespace {
+
+const Calendar rome("Europe/Rome");
+
+Instant noon(int year, int month, int day) { return *rome.date({year, month, day}, 12); }
+
+struct Workplace {
+    QTemporaryDir home;
+    std::filesystem::path folder = std::filesystem::path(home.path().toStdString()) / "Vantello";
+    Preferences preferences{home.path() + QStringLiteral("/Vantello.conf")};
+
+    std::unique_ptr<LedgerViewModel> model() {
+        return std::make_unique<LedgerViewModel>(LedgerViewModel::Setup{
+            folder, std::nullopt, rome, [] { return noon(2026, 3, 18); }, &preferences, folder / "Backup"});
+    }
+};
+
+template <typename Widget>
+Widget* part(const QObject& screen, const char* name) {
+    auto* found = screen.findChild<Widget*>(QString::fromLatin1(name));
+    if (!found) qFatal("no widget named %s", name);
+    return found;
+}
+
+// The Italian texts of the screen in another language, read from "italian<TAB>translation" lines,
+// for looking at a rendering before the catalogue has them.
+class TableTranslator : public QTranslator {
+public:
+    explicit TableTranslator(const QString& file) {
+        QFile table(file);
+        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
+        while (!table.atEnd()) {
+            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
+            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
+        }
+    }
+    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
+        return texts_.value(QString::fromUtf8(source));
+    }
+    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
+
+private:
+    QHash<QString, QString> texts_;
+};
+
+// Renders `draw` in both languages and a light and a dark theme into VANTELLO_SCREENSHOTS;
+// VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the catalogue does not have yet.
+template <typename Draw>
+void renderEverywhere(Draw draw) {
+    const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
+    if (folder.isEmpty()) QSKIP("no folder for screenshots");
+    for (const bool english : {false, true}) {
+        QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+        TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
+        if (english) QCoreApplication::installTranslator(&extra);
+        for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
+            applyTheme(theme);
+            draw(folder + QLatin1Char('/'),
+                 QStringLiteral("%1-%2").arg(english ? QStringLiteral("en") : QStringLiteral("it"),
+                                             theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light")));
+        }
+        QCoreApplication::removeTranslator(&extra);
+    }
+    QSettings().remove(QStringLiteral("language"));
+    installInterfaceLanguage(*QCoreApplication::instance());
+    applyTheme(AppTheme::system);
+}
+
+}  // namespace
+
+class RecurringScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QApplication::setOrganizationName(QStringLiteral("Vantello"));
+        QApplication::setApplicationName(QStringLiteral("Vantello"));
+        QSettings().remove(QStringLiteral("language"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+    }
+
+    void everyRuleShowsItsAmountAndNextDate() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        RecurringScreen screen(*model);
+        const RecurringRulesModel& rows = screen.listModel();
+        const auto& rules = model->ledger().recurringRules();
+        QVERIFY(!rules.empty());
+        QCOMPARE(std::size_t(rows.rowCount()), rules.size());
+        QVERIFY(part<QTreeView>(screen, "recurringList")->isVisibleTo(&screen));
+        for (const RecurringRule& rule : rules) {
+            const int row = rows.rowOf(rule.id);
+            QVERIFY(row >= 0);
+            const QJsonObject shown = rows.rowsAsJson()[row].toObject();
+            const auto next = rule.nextOccurrence(model->now(), model->calendar());
+            QVERIFY(next);
+            QCOMPARE(shown[QStringLiteral("next")].toString(), dayText(*next, model->calendar()));
+            if (!rule.transferToAccountID) {
+                QCOMPARE(shown[QStringLiteral("amount")].toString(), movementAmountText(rule.amount, rule.kind));
+                QCOMPARE(shown[QStringLiteral("sign")].toInt(), rule.kind == TransactionKind::income ? 1 : -1);
+            }
+            QCOMPARE(rows.index(row, RecurringRulesModel::AmountColumn).data(Qt::TextAlignmentRole).toInt(),
+                     int(Qt::AlignRight | Qt::AlignVCenter));
+        }
+    }
+
+    void theEditorRefusesBadInputInsideAndSavesAGoodRule() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        RecurringScreen screen(*model);
+        const std::size_t before = model->ledger().recurringRules().size();
+        const std::size_t movementsBefore = model->ledger().transactions().size();
+        screen.addRule();
+        auto* editor = screen.findChild<RecurringEditor*>();
+        QVERIFY(editor);
+
+        auto* amount = part<QLineEdit>(*editor, "amountEdit");
+        amount->setText(QStringLiteral("dodici"));
+        editor->save();
+        QCOMPARE(editor->errorText(), uiText("Scrivi un importo, per esempio 250 o 250,00."));
+        QVERIFY(editor->isVisible());
+
+        // A transfer to the account it leaves from is the core's refusal, shown in the sheet.
+        part<QComboBox>(*editor, "kindPicker")->setCurrentIndex(2);
+        amount->setText(QStringLiteral("100,00"));
+        auto* from = part<QComboBox>(*editor, "accountPicker");
+        auto* to = part<QComboBox>(*editor, "destinationPicker");
+        to->setCurrentIndex(from->currentIndex());
+        editor->save();
+        QVERIFY(!editor->errorText().isEmpty());
+        QVERIFY(editor->errorText() != uiText("Scrivi un importo, per esempio 250 o 250,00."));
+        QCOMPARE(model->ledger().recurringRules().size(), before);
+
+        // A monthly gym fee from the 1st of next month.
+        part<QComboBox>(*editor, "kindPicker")->setCurrentIndex(0);
+        amount->setText(QStringLiteral("45,90"));
+        part<QLineEdit>(*editor, "noteEdit")->setText(QStringLiteral("Palestra"));
+        part<QDateEdit>(*editor, "startEdit")->setDate(QDate(2026, 4, 1));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QVERIFY(!editor->isVisible());
+        QCOMPARE(model->ledger().recurringRules().size(), before + 1);
+        QCOMPARE(model->ledger().transactions().size(), movementsBefore);  // nothing due yet
+        const auto& added = model->ledger().recurringRules().back();
+        QCOMPARE(added.amount, *Decimal::fromCanonical("45.90"));
+        const QJsonObject shown = screen.listModel().rowsAsJson()[screen.listModel().rowOf(added.id)].toObject();
+        QCOMPARE(shown[QStringLiteral("description")].toString(), QStringLiteral("Palestra"));
+        QCOMPARE(shown[QStringLiteral("next")].toString(), dayText(noon(2026, 4, 1), rome));
+        model->undo();
+        QCOMPARE(screen.listModel().rowCount(), int(before));
+    }
+
+    void aRuleStartedInThePastCreatesItsMovementsInTheSameChange() {
+        Workplace place;
+        auto model = place.model();
+        RecurringScreen screen(*model);
+        QVERIFY(part<QWidget>(screen, "recurringEmpty")->isVisibleTo(&screen));
+        part<QPushButton>(screen, "emptyAddButton")->click();
+        auto* editor = screen.findChild<RecurringEditor*>();
+        QVERIFY(editor);
+        part<QLineEdit>(*editor, "amountEdit")->setText(QStringLiteral("10"));
+        part<QComboBox>(*editor, "frequencyPicker")->setCurrentIndex(0);  // weekly
+        part<QDateEdit>(*editor, "startEdit")->setDate(QDate(2026, 3, 4));
+        editor->save();
+        QCOMPARE(model->ledger().transactions().size(), std::size_t(3));  // the 4th, 11th and 18th
+        model->undo();
+        QVERIFY(model->ledger().transactions().empty());
+        QVERIFY(model->ledger().recurringRules().empty());
+    }
+
+    void editingKeepsTheRuleAndDeletingAsksFirst() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        RecurringScreen screen(*model);
+        auto* list = part<QTreeView>(screen, "recurringList");
+        const RecurringRule first = model->ledger().recurringRules().front();
+        list->setCurrentIndex(screen.listModel().index(screen.listModel().rowOf(first.id), 0));
+        QCOMPARE(screen.selectedRuleID(), std::optional(first.id));
+
+        screen.editSelected();
+        auto* editor = screen.findChild<RecurringEditor*>();
+        QVERIFY(editor);
+        auto* amount = part<QLineEdit>(*editor, "amountEdit");
+        QCOMPARE(*AmountParser::parse(amount->text().toStdString()), first.amount);
+        amount->setText(QStringLiteral("1.234,50"));
+        editor->save();
+        const auto& rules = model->ledger().recurringRules();
+        const auto edited = std::ranges::find(rules, first.id, &RecurringRule::id);
+        QVERIFY(edited != rules.end());
+        QCOMPARE(edited->amount, *Decimal::fromCanonical("1234.50"));
+        QCOMPARE(edited->categoryID, first.categoryID);
+        QCOMPARE(edited->startDate, first.startDate);
+
+        const std::size_t count = rules.size();
+        list->setCurrentIndex(screen.listModel().index(screen.listModel().rowOf(first.id), 0));
+        screen.deleteSelected();
+        auto* question = screen.findChild<QMessageBox*>(QStringLiteral("deleteRecurringConfirmation"));
+        QVERIFY(question);
+        QCOMPARE(model->ledger().recurringRules().size(), count);
+        part<QPushButton>(*question, "confirmDeleteButton")->click();
+        QCOMPARE(model->ledger().recurringRules().size(), count - 1);
+        QCOMPARE(screen.listModel().rowOf(first.id), -1);
+    }
+
+    void rendersForLookingAt() {
+        Workplace place;
+        renderEverywhere([&](const QString& folder, const QString& suffix) {
+            auto model = place.model();
+            model->enterDemo();
+            RecurringScreen screen(*model);
+            screen.resize(1000, 600);
+            screen.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&screen));
+            QVERIFY(screen.grab().save(folder + QStringLiteral("recurring-") + suffix + QStringLiteral(".png")));
+            screen.addRule();
+            auto* editor = screen.findChild<RecurringEditor*>();
+            part<QLineEdit>(*editor, "amountEdit")->setText(QStringLiteral("dodici"));
+            editor->save();
+            editor->show();
+            QVERIFY(editor->grab().save(folder + QStringLiteral("recurring-editor-") + suffix + QStringLiteral(".png")));
+            editor->reject();
+        });
+    }
+};
+
+QTEST_MAIN(RecurringScreenTest)
+#include "RecurringScreenTest.moc"

@@ -1,0 +1,198 @@
+// The shared-expenses screen on the demo ledger with a frozen day: the balances in words, a
+// settlement that moves one, each person's history, adding and deleting a person.
+
+// Qt's headers come first: moc cannot read the standard library's <concepts> before them.
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+#include "app/model/DisplayText.hpp"
+#include "app/model/LedgerViewModel.hpp"
+#include "app/screens/SharedScreen.hpp"
+#include "app/settings/AppTheme.hpp"
+#include "app/settings/Language.hpp"
+#include "app/settings/ThemeApplication.hpp"
+#include "core/ledger/LedgerSharing.hpp"
+
+using namespace vantello;
+using namespace vantello::app;
+
+namespace {
+
+const Calendar rome("Europe/Rome");
+
+Instant noon(int year, int month, int day) { return *rome.date({year, month, day}, 12); }
+
+struct Workplace {
+    QTemporaryDir home;
+    std::filesystem::path folder = std::filesystem::path(home.path().toStdString()) / "Vantello";
+    Preferences preferences{home.path() + QStringLiteral("/Vantello.conf")};
+
+    std::unique_ptr<LedgerViewModel> model() {
+        return std::make_unique<LedgerViewModel>(LedgerViewModel::Setup{
+            folder, std::nullopt, rome, [] { return noon(2026, 3, 18); }, &preferences, folder / "Backup"});
+    }
+};
+
+template <typename Widget>
+Widget* part(const QObject& screen, const char* name) {
+    auto* found = screen.findChild<Widget*>(QString::fromLatin1(name));
+    if (!found) qFatal("no widget named %s", name);
+    return found;
+}
+
+QString shownBalance(const SharedScreen& screen, int row) {
+    return screen.peopleModel().index(row, 1).data().toString();
+}
+
+class TableTranslator : public QTranslator {
+public:
+    explicit TableTranslator(const QString& file) {
+        QFile table(file);
+        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
+        while (!table.atEnd()) {
+            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
+            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
+        }
+    }
+    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
+        return texts_.value(QString::fromUtf8(source));
+    }
+    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
+
+private:
+    QHash<QString, QString> texts_;
+};
+
+}  // namespace
+
+class SharedScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QApplication::setOrganizationName(QStringLiteral("Vantello"));
+        QApplication::setApplicationName(QStringLiteral("Vantello"));
+        QSettings().remove(QStringLiteral("language"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+    }
+
+    void balancesSayWhoOwesWhom() {
+        QCOMPARE(balanceText(Decimal(1250)), QStringLiteral("Ti deve ") + euroText(Decimal(1250)));
+        QCOMPARE(balanceText(Decimal(-1250, -2)), QStringLiteral("Devi ") + euroText(Decimal(1250, -2)));
+        QCOMPARE(balanceText(Decimal()), QStringLiteral("In pari"));
+    }
+
+    void demoShowsGiuliaWithHerBalanceAndHistory() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        SharedScreen screen(*model);
+
+        QCOMPARE(screen.peopleModel().rowCount(), 1);
+        const Uuid giulia = *screen.peopleModel().idAt(0);
+        const Decimal balance = personBalance(model->ledger(), giulia);
+        QCOMPARE(shownBalance(screen, 0), balanceText(balance));
+        QCOMPARE(screen.peopleModel().index(0, 1).data(WealthTableModel::SignRole).toInt(), balance.sign());
+        QCOMPARE(std::size_t(screen.historyModel().rowCount()), personHistory(model->ledger(), giulia).size());
+        QVERIFY(screen.historyModel().rowCount() > 0);
+        QVERIFY(part<QLabel>(screen, "historyTitle")->text().contains(QStringLiteral("Giulia")));
+    }
+
+    void aSettlementChangesTheBalanceShown() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        SharedScreen screen(*model);
+        const Uuid giulia = *screen.peopleModel().idAt(0);
+        const Decimal before = personBalance(model->ledger(), giulia);
+        const int historyBefore = screen.historyModel().rowCount();
+
+        part<QPushButton>(screen, "settleButton")->click();
+        auto* sheet = part<QDialog>(screen, "settleSheet");
+        QCOMPARE(part<QLabel>(*sheet, "settleBalance")->text(), balanceText(before));
+        part<QComboBox>(*sheet, "settleKindPicker")->setCurrentIndex(0);  // she paid the user back
+        part<QLineEdit>(*sheet, "settleAmountEdit")->setText(QStringLiteral("0"));
+        part<QPushButton>(*sheet, "saveButton")->click();
+        QVERIFY(sheet->isVisible());  // the core refuses nothing paid
+        QVERIFY(!part<QLabel>(*sheet, "sheetError")->text().isEmpty());
+
+        part<QLineEdit>(*sheet, "settleAmountEdit")->setText(QStringLiteral("10,00"));
+        part<QPushButton>(*sheet, "saveButton")->click();
+        QVERIFY(!sheet->isVisible());
+        const Decimal after = personBalance(model->ledger(), giulia);
+        QCOMPARE(after, before - Decimal(10));
+        QCOMPARE(shownBalance(screen, 0), balanceText(after));
+        QCOMPARE(screen.historyModel().rowCount(), historyBefore + 1);
+        QCOMPARE(screen.historyModel().person(), std::optional<Uuid>(giulia));
+    }
+
+    void addingAndDeletingAPerson() {
+        Workplace place;
+        auto model = place.model();
+        SharedScreen screen(*model);
+        QVERIFY(part<QLabel>(screen, "peopleEmpty")->isVisibleTo(&screen));
+        QVERIFY(!part<QPushButton>(screen, "settleButton")->isEnabled());
+
+        part<QPushButton>(screen, "addPersonButton")->click();
+        auto* sheet = part<QDialog>(screen, "personSheet");
+        part<QPushButton>(*sheet, "saveButton")->click();  // no name
+        QVERIFY(sheet->isVisible());
+        QVERIFY(!part<QLabel>(*sheet, "sheetError")->text().isEmpty());
+        part<QLineEdit>(*sheet, "personNameEdit")->setText(QStringLiteral("Marco"));
+        part<QPushButton>(*sheet, "saveButton")->click();
+        QVERIFY(!sheet->isVisible());
+        QCOMPARE(screen.peopleModel().rowCount(), 1);
+        QCOMPARE(shownBalance(screen, 0), QStringLiteral("In pari"));
+        QVERIFY(part<QPushButton>(screen, "settleButton")->isEnabled());
+
+        // Cancelling the question keeps the person.
+        part<QPushButton>(screen, "deletePersonButton")->click();
+        part<QMessageBox>(screen, "confirmDeletion")->reject();
+        QCOMPARE(screen.peopleModel().rowCount(), 1);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+        part<QPushButton>(screen, "deletePersonButton")->click();
+        part<QPushButton>(*part<QMessageBox>(screen, "confirmDeletion"), "confirmButton")->click();
+        QCOMPARE(screen.peopleModel().rowCount(), 0);
+        QVERIFY(model->ledger().people().empty());
+    }
+
+    // Writes the screen in light and dark, Italian and English, for looking at.
+    void renderings() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        const QString table = qEnvironmentVariable("VANTELLO_TRANSLATION_TABLE");
+        for (const bool english : {false, true}) {
+            TableTranslator translator(table);
+            if (english && !translator.isEmpty()) QCoreApplication::installTranslator(&translator);
+            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
+                applyTheme(theme);
+                SharedScreen screen(*model);
+                screen.resize(900, 520);
+                const QString name = QStringLiteral("%1/shared-%2-%3.png")
+                                         .arg(QDir::tempPath(), english ? QStringLiteral("en") : QStringLiteral("it"),
+                                              theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
+                QVERIFY(screen.grab().save(name));
+                screen.settleUp();
+                QVERIFY(part<QDialog>(screen, "settleSheet")->grab().save(QString(name).replace(QStringLiteral("shared-"), QStringLiteral("settle-sheet-"))));
+            }
+            QCoreApplication::removeTranslator(&translator);
+        }
+        applyTheme(AppTheme::light);
+    }
+};
+
+QTEST_MAIN(SharedScreenTest)
+#include "SharedScreenTest.moc"

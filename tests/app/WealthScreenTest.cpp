@@ -1,0 +1,233 @@
+// The wealth screen on the demo ledger with a frozen day: the net worth and its year, a new
+// valuation that moves it, the core's messages inside the sheets, and loans from the sheet to
+// the plan and the deletion.
+
+// Qt's headers come first: moc cannot read the standard library's <concepts> before them.
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtCharts>
+#include <QtTest>
+
+#include "app/model/DisplayText.hpp"
+#include "app/model/LedgerViewModel.hpp"
+#include "app/screens/WealthScreen.hpp"
+#include "app/settings/AppTheme.hpp"
+#include "app/settings/Language.hpp"
+#include "app/settings/ThemeApplication.hpp"
+#include "core/planning/NetWorth.hpp"
+
+using namespace vantello;
+using namespace vantello::app;
+
+namespace {
+
+const Calendar rome("Europe/Rome");
+
+Instant noon(int year, int month, int day) { return *rome.date({year, month, day}, 12); }
+
+struct Workplace {
+    QTemporaryDir home;
+    std::filesystem::path folder = std::filesystem::path(home.path().toStdString()) / "Vantello";
+    Preferences preferences{home.path() + QStringLiteral("/Vantello.conf")};
+
+    std::unique_ptr<LedgerViewModel> model() {
+        return std::make_unique<LedgerViewModel>(LedgerViewModel::Setup{
+            folder, std::nullopt, rome, [] { return noon(2026, 3, 18); }, &preferences, folder / "Backup"});
+    }
+};
+
+template <typename Widget>
+Widget* part(const QObject& screen, const char* name) {
+    auto* found = screen.findChild<Widget*>(QString::fromLatin1(name));
+    if (!found) qFatal("no widget named %s", name);
+    return found;
+}
+
+QString figure(const QWidget& screen) { return part<QLabel>(screen, "netWorthFigure")->text(); }
+
+QString coreNetWorth(const LedgerViewModel& model) {
+    return euroText(netWorth(model.ledger(), model.now(), model.calendar()).total());
+}
+
+// The Italian texts in another language, read from "italian<TAB>translation" lines, for looking
+// at a rendering before the catalogue has them.
+class TableTranslator : public QTranslator {
+public:
+    explicit TableTranslator(const QString& file) {
+        QFile table(file);
+        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
+        while (!table.atEnd()) {
+            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
+            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
+        }
+    }
+    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
+        return texts_.value(QString::fromUtf8(source));
+    }
+    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
+
+private:
+    QHash<QString, QString> texts_;
+};
+
+}  // namespace
+
+class WealthScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QApplication::setOrganizationName(QStringLiteral("Vantello"));
+        QApplication::setApplicationName(QStringLiteral("Vantello"));
+        QSettings().remove(QStringLiteral("language"));
+        installInterfaceLanguage(*QCoreApplication::instance());
+    }
+
+    void demoShowsNetWorthItsYearAssetsAndLoans() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        WealthScreen screen(*model);
+
+        QCOMPARE(figure(screen), coreNetWorth(*model));
+        const auto history = netWorthHistory(model->ledger(), 12, model->now(), model->calendar());
+        auto* series = qobject_cast<QLineSeries*>(part<QChartView>(screen, "netWorthChart")->chart()->series().front());
+        QCOMPARE(series->count(), 12);
+        QCOMPARE(series->at(11).y(), history.back().value.total().toDouble());
+
+        const QJsonArray assets = screen.assetModel().rowsAsJson();
+        QCOMPARE(assets.size(), 1);
+        QCOMPARE(assets[0][QStringLiteral("name")].toString(), QStringLiteral("Auto"));
+        const QJsonArray loans = screen.loanModel().rowsAsJson();
+        QCOMPARE(loans.size(), 1);
+        QCOMPARE(loans[0][QStringLiteral("booked")].toString(), QStringLiteral("Rata ricorrente"));
+        // Amounts line up on the right.
+        QCOMPARE(screen.loanModel().index(0, 2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight, int(Qt::AlignRight));
+
+        // Every control a screen reader reaches says what it is.
+        for (auto* control : screen.findChildren<QPushButton*>()) {
+            if (control->isVisibleTo(&screen)) QVERIFY2(!control->accessibleName().isEmpty(), qPrintable(control->objectName()));
+        }
+    }
+
+    void aNewValuationChangesTheNetWorthAndUndoTakesItBack() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        WealthScreen screen(*model);
+        const QString before = figure(screen);
+
+        part<QPushButton>(screen, "updateValueButton")->click();
+        auto* sheet = part<QDialog>(screen, "valuationSheet");
+        // Something that is not an amount keeps the sheet open with a hint.
+        part<QLineEdit>(*sheet, "valuationEdit")->setText(QStringLiteral("tanto"));
+        part<QPushButton>(*sheet, "saveButton")->click();
+        QVERIFY(sheet->isVisible());
+        QVERIFY(!part<QLabel>(*sheet, "sheetError")->isHidden());
+
+        part<QLineEdit>(*sheet, "valuationEdit")->setText(QStringLiteral("20.000,00"));
+        part<QPushButton>(*sheet, "saveButton")->click();
+        QVERIFY(!sheet->isVisible());
+        QCOMPARE(screen.assetModel().rowsAsJson()[0][QStringLiteral("value")].toString(), euroText(Decimal(20'000)));
+        QVERIFY(figure(screen) != before);
+        QCOMPARE(figure(screen), coreNetWorth(*model));
+
+        model->undo();
+        QCOMPARE(figure(screen), before);
+    }
+
+    void theCoresMessageStaysInsideTheSheet() {
+        Workplace place;
+        auto model = place.model();
+        WealthScreen screen(*model);
+        QVERIFY(part<QLabel>(screen, "assetsEmpty")->isVisibleTo(&screen));
+        QVERIFY(!part<QPushButton>(screen, "updateValueButton")->isEnabled());
+
+        part<QPushButton>(screen, "newAssetButton")->click();
+        auto* sheet = part<QDialog>(screen, "assetSheet");
+        part<QLineEdit>(*sheet, "assetValueEdit")->setText(QStringLiteral("250000"));
+        part<QPushButton>(*sheet, "saveButton")->click();  // no name
+        QVERIFY(sheet->isVisible());
+        QVERIFY(!part<QLabel>(*sheet, "sheetError")->text().isEmpty());
+        QCOMPARE(screen.assetModel().rowCount(), 0);
+        QVERIFY(!model->errorMessage());
+
+        part<QLineEdit>(*sheet, "assetNameEdit")->setText(QStringLiteral("Casa"));
+        part<QPushButton>(*sheet, "saveButton")->click();
+        QVERIFY(!sheet->isVisible());
+        QCOMPARE(screen.assetModel().rowCount(), 1);
+        QCOMPARE(figure(screen), euroText(Decimal(250'000)));
+        QVERIFY(part<QPushButton>(screen, "updateValueButton")->isEnabled());
+    }
+
+    void aLoanIsBookedShownInItsPlanAndDeletedAfterAsking() {
+        Workplace place;
+        auto model = place.model();
+        WealthScreen screen(*model);
+
+        part<QPushButton>(screen, "newLoanButton")->click();
+        auto* sheet = part<QDialog>(screen, "loanSheet");
+        part<QLineEdit>(*sheet, "loanNameEdit")->setText(QStringLiteral("Mutuo"));
+        part<QLineEdit>(*sheet, "loanPrincipalEdit")->setText(QStringLiteral("120.000"));
+        part<QLineEdit>(*sheet, "loanRateEdit")->setText(QStringLiteral("3,5"));
+        part<QPushButton>(*sheet, "saveButton")->click();
+        QVERIFY(!sheet->isVisible());
+        QCOMPARE(model->ledger().recurringRules().size(), std::size_t(1));
+        const QJsonArray loans = screen.loanModel().rowsAsJson();
+        QCOMPARE(loans.size(), 1);
+        QCOMPARE(loans[0][QStringLiteral("booked")].toString(), QStringLiteral("Rata ricorrente"));
+        QCOMPARE(loans[0][QStringLiteral("remaining")].toString(), euroText(Decimal(120'000)));
+        // The debt weighs on the net worth.
+        QCOMPARE(figure(screen), euroText(Decimal(-120'000)));
+
+        part<QPushButton>(screen, "scheduleButton")->click();
+        auto* plan = part<QDialog>(screen, "loanScheduleSheet");
+        QCOMPARE(part<QTableView>(*plan, "scheduleView")->model()->rowCount(), 60);
+        plan->reject();
+
+        part<QPushButton>(screen, "deleteLoanButton")->click();
+        auto* ask = part<QMessageBox>(screen, "confirmDeletion");
+        part<QPushButton>(*ask, "confirmButton")->click();
+        QCOMPARE(screen.loanModel().rowCount(), 0);
+        QVERIFY(model->ledger().recurringRules().empty());
+    }
+
+    // Writes the screen in light and dark, Italian and English, for looking at.
+    void renderings() {
+        Workplace place;
+        auto model = place.model();
+        model->enterDemo();
+        const QString table = qEnvironmentVariable("VANTELLO_TRANSLATION_TABLE");
+        for (const bool english : {false, true}) {
+            TableTranslator translator(table);
+            if (english && !translator.isEmpty()) QCoreApplication::installTranslator(&translator);
+            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
+                applyTheme(theme);
+                WealthScreen screen(*model);
+                screen.resize(960, 760);
+                const QString name = QStringLiteral("%1/wealth-%2-%3.png")
+                                         .arg(QDir::tempPath(), english ? QStringLiteral("en") : QStringLiteral("it"),
+                                              theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
+                QVERIFY(screen.grab().save(name));
+                screen.newLoan();
+                QVERIFY(part<QDialog>(screen, "loanSheet")->grab().save(QString(name).replace(QStringLiteral("wealth-"), QStringLiteral("loan-sheet-"))));
+                screen.showLoanSchedule();
+                QVERIFY(part<QDialog>(screen, "loanScheduleSheet")->grab().save(QString(name).replace(QStringLiteral("wealth-"), QStringLiteral("loan-plan-"))));
+            }
+            QCoreApplication::removeTranslator(&translator);
+        }
+        applyTheme(AppTheme::light);
+    }
+};
+
+QTEST_MAIN(WealthScreenTest)
+#include "WealthScreenTest.moc"

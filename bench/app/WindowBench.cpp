@@ -4,6 +4,7 @@
 // a time. Goals: the start under 1 s; a month switch under 16 ms, one frame.
 
 #include "app/model/ProfilesController.hpp"
+#include "app/model/SidebarItems.hpp"
 #include "app/screens/MainWindow.hpp"
 #include "bench/GeneratedLedger.hpp"
 #include "core/files/LedgerStore.hpp"
@@ -76,6 +77,32 @@ void switchingMonth(benchmark::State& state) {
     }
 }
 BENCHMARK(switchingMonth)->Unit(benchmark::kMillisecond)->Iterations(40);
+
+// Each screen of the sidebar opened for the first time on the 100,000-movement ledger: the
+// screen is made, reads the model and is painted.
+void openingEachScreen(benchmark::State& state) {
+    const SidebarItem& item = sidebarItems().at(static_cast<std::size_t>(state.range(0)));
+    state.SetLabel(item.rawValue.toStdString());
+    Desk desk(bench::generatedLedger().data());
+    auto profiles = desk.controller();
+    for (auto _ : state) {
+        state.PauseTiming();
+        // The window opens on another screen, so that this one is made inside the measure.
+        profiles->model().setSidebarSelection(item.rawValue == QLatin1String("movements") ? QStringLiteral("charts")
+                                                                                          : QStringLiteral("movements"));
+        auto window = std::make_unique<MainWindow>(*profiles, desk.preferences);
+        window->resize(1280, 800);
+        window->show();
+        paint(*window);
+        state.ResumeTiming();
+        window->showScreen(item.rawValue);
+        paint(*window);
+        state.PauseTiming();
+        window.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(openingEachScreen)->DenseRange(0, 14)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 // 10,000 movements in the month of `now`, on top of the generated ledger's accounts.
 LedgerData crowdedMonth() {

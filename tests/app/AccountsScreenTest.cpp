@@ -1,18 +1,16 @@
 // The accounts screen on the demo ledger: balances as the core computes them, an account added
 // with amounts typed the Italian way, edited, and deleted with the count of moved movements and
-// dissolved transfers said before and after; the main account kept; renderings for looking at.
+// dissolved transfers said before and after; the main account kept.
 
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QJsonObject>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QTreeView>
 #include <QtTest>
 
@@ -23,13 +21,10 @@
 #include "app/model/SymbolIcons.hpp"
 #include "app/screens/AccountDialog.hpp"
 #include "app/screens/AccountsScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
 #include "app/settings/ThemeApplication.hpp"
 #include "core/ledger/AmountParser.hpp"
 #include "core/ledger/LedgerAccounts.hpp"
-
-#include <tuple>
 
 using namespace vantello;
 using namespace vantello::app;
@@ -61,27 +56,6 @@ Widget* part(const QWidget& screen, const char* name) {
 void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 Decimal amount(const char* typed) { return *AmountParser::parse(typed); }
-
-// The Italian texts of the screen in another language, read from "italian<TAB>translation" lines,
-// for looking at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 }  // namespace
 
@@ -238,54 +212,6 @@ private Q_SLOTS:
         QVERIFY(!screen.findChild<QMessageBox*>());
         QCOMPARE(screen.noticeText(), QStringLiteral("Il conto principale non si può eliminare."));
         QCOMPARE(model->ledgerRevision(), revision);
-    }
-
-    // Renders the screen (and its sheet) in both languages, light and dark, when a folder is named
-    // in VANTELLO_SCREENSHOTS; VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the
-    // catalogue does not have yet.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                model->enterDemo();
-                std::ignore = addAccountFromForm(*model, {QStringLiteral("Carta prepagata"), "creditcard",
-                                                          QStringLiteral("-1.250,50"), QString()});
-                AccountsScreen screen(*model);
-                screen.resize(1000, 600);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                screen.selectAccount("risparmi");
-                screen.deleteSelected();
-                auto* ask = part<QMessageBox>(screen, "deleteAccountConfirmation");
-                const QString suffix = QStringLiteral("%1-%2").arg(english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                                   theme == AppTheme::dark ? QStringLiteral("dark")
-                                                                                           : QStringLiteral("light"));
-                QVERIFY(ask->grab().save(folder + QStringLiteral("/accounts-confirm-%1.png").arg(suffix)));
-                part<QPushButton>(*ask, "confirmDeleteButton")->click();
-                settle();
-                QTest::qWait(20);
-                QVERIFY(screen.grab().save(folder + QStringLiteral("/accounts-%1.png").arg(suffix)));
-                screen.selectAccount("principale");
-                screen.editSelected();
-                auto* sheet = part<AccountDialog>(screen, "accountDialog");
-                sheet->adjustSize();
-                QVERIFY(sheet->grab().save(folder + QStringLiteral("/accounts-sheet-%1.png").arg(suffix)));
-                sheet->reject();
-                settle();
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

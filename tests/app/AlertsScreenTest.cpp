@@ -4,21 +4,18 @@
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
 #include <QCheckBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
 
 #include "app/model/DisplayText.hpp"
 #include "app/model/LedgerViewModel.hpp"
 #include "app/screens/AlertsScreen.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/ledger/AccountIDs.hpp"
 
 #include <algorithm>
@@ -61,27 +58,6 @@ QStringList modelTitles(LedgerViewModel& model) {
     for (const SmartAlert& alert : model.alerts()) titles << QString::fromStdString(alert.title);
     return titles;
 }
-
-// The Italian texts in another language, read from "italian<TAB>translation" lines, for looking
-// at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 }  // namespace
 
@@ -172,37 +148,6 @@ private Q_SLOTS:
         QCOMPARE(notify->isChecked(), model->alertNotifications());
         notify->click();
         QCOMPARE(model->alertNotifications(), notify->isChecked());
-    }
-
-    // Renders the screen in both languages and themes when VANTELLO_SCREENSHOTS names a folder;
-    // VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the catalogue lacks.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                model->enterDemo();
-                AlertsScreen screen(*model);
-                screen.resize(900, 820);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                QTest::qWait(20);
-                QVERIFY(screen.grab().save(QStringLiteral("%1/alerts-%2-%3.png")
-                                               .arg(folder, english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                    theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"))));
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

@@ -5,7 +5,6 @@
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,18 +13,14 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
 
-#include "app/model/BudgetActions.hpp"
 #include "app/model/BudgetListModel.hpp"
 #include "app/model/DisplayText.hpp"
 #include "app/model/LedgerViewModel.hpp"
 #include "app/screens/BudgetDialog.hpp"
 #include "app/screens/BudgetsScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 
 using namespace vantello;
 using namespace vantello::app;
@@ -63,25 +58,6 @@ Widget* part(const QWidget& screen, const char* name) {
     if (!found) qFatal("no widget named %s", name);
     return found;
 }
-
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 // Spesa 240 and Ristoranti 90 in March; a budget of 300 on Spesa.
 void fillMarch(LedgerViewModel& model) {
@@ -173,46 +149,6 @@ private Q_SLOTS:
         QVERIFY(!part<QPushButton>(screen, "removeBudgetButton")->isEnabled());
         model->undo();
         QVERIFY(screen.listModel().rowOf("ristoranti") >= 0);
-    }
-
-    // Renders the screen in both languages and in a light and a dark theme when a folder is named
-    // in VANTELLO_SCREENSHOTS; VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the
-    // catalogue does not have yet.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                model->enterDemo();
-                // One budget over its limit and one near it, beside the demo's.
-                QVERIFY(!setCategoryBudget(*model, "svago", QStringLiteral("20")));
-                QVERIFY(!setCategoryBudget(*model, "ristoranti", QStringLiteral("18")));
-                BudgetsScreen screen(*model);
-                screen.resize(1000, 700);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                const QString suffix = QStringLiteral("%1-%2").arg(english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                                   theme == AppTheme::dark ? QStringLiteral("dark")
-                                                                                           : QStringLiteral("light"));
-                QVERIFY(screen.grab().save(QStringLiteral("%1/budgets-%2.png").arg(folder, suffix)));
-                auto* sheet = screen.openBudgetDialog();
-                part<QLineEdit>(*sheet, "budgetAmount")->setText(QStringLiteral("dodici"));
-                sheet->save();
-                QVERIFY(sheet->grab().save(QStringLiteral("%1/budget-sheet-%2.png").arg(folder, suffix)));
-                sheet->reject();
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

@@ -1,10 +1,9 @@
 // The categories screen on the demo ledger: both kinds listed with the built-in ones first, a
 // custom category added, renamed and deleted (its movements moving to the fallback category),
-// the core's refusals shown, and renderings for looking at.
+// and the core's refusals shown.
 
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,7 +12,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QTreeView>
 #include <QtTest>
 
@@ -22,9 +20,7 @@
 #include "app/model/SymbolIcons.hpp"
 #include "app/screens/CategoriesScreen.hpp"
 #include "app/screens/CategoryDialog.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 
 using namespace vantello;
 using namespace vantello::app;
@@ -70,27 +66,6 @@ QStringList names(const CategoryListModel& list) {
     for (const auto& row : list.rowsAsJson()) found << row.toObject()[QStringLiteral("name")].toString();
     return found;
 }
-
-// The Italian texts of the screen in another language, read from "italian<TAB>translation" lines,
-// for looking at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 }  // namespace
 
@@ -220,51 +195,6 @@ private Q_SLOTS:
         QCOMPARE(screen.noticeText(), QStringLiteral("Le categorie predefinite non si possono modificare."));
         QCOMPARE(model->ledgerRevision(), revision);
         QVERIFY(model->ledger().category("spesa"));
-    }
-
-    // Renders the screen (and its sheet) in both languages, light and dark, when a folder is named
-    // in VANTELLO_SCREENSHOTS; VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the
-    // catalogue does not have yet.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                model->enterDemo();
-                CategoriesScreen screen(*model);
-                screen.resize(1000, 700);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                part<QPushButton>(screen, "addCategoryButton")->click();
-                fillSheet(screen, QStringLiteral("Palestra"), QStringLiteral("heart"));
-                settle();
-                screen.selectCategory("spesa");
-                screen.deleteSelected();
-                QTest::qWait(20);
-                const QString suffix = QStringLiteral("%1-%2").arg(english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                                   theme == AppTheme::dark ? QStringLiteral("dark")
-                                                                                           : QStringLiteral("light"));
-                QVERIFY(screen.grab().save(folder + QStringLiteral("/categories-%1.png").arg(suffix)));
-                screen.selectCategory(screen.expenseList().category(screen.expenseList().rowCount() - 1)->id);
-                screen.editSelected();
-                auto* sheet = part<CategoryDialog>(screen, "categoryDialog");
-                sheet->adjustSize();
-                QVERIFY(sheet->grab().save(folder + QStringLiteral("/categories-sheet-%1.png").arg(suffix)));
-                sheet->reject();
-                settle();
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

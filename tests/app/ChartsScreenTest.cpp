@@ -4,23 +4,19 @@
 
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtCharts>
 #include <QtTest>
 
 #include "app/model/ChartModels.hpp"
 #include "app/model/LedgerViewModel.hpp"
 #include "app/screens/ChartsScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/analysis/PieHitTest.hpp"
 
 #include <cmath>
@@ -52,27 +48,6 @@ Widget* part(const QWidget& screen, const char* name) {
     if (!found) qFatal("no widget named %s", name);
     return found;
 }
-
-// The Italian texts in another language, from "italian<TAB>translation" lines, for looking at a
-// rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 void hover(QWidget* viewport, QPoint point) {
     QMouseEvent move(QEvent::MouseMove, point, viewport->mapToGlobal(point), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
@@ -195,42 +170,6 @@ private Q_SLOTS:
         QCOMPARE(asked.count(), 1);
         model->enterDemo();
         QCOMPARE(part<QStackedWidget>(screen, "categoryPages")->currentIndex(), 0);
-    }
-
-    // Renders the screen in both languages and in a light and a dark theme when a folder is named
-    // in VANTELLO_SCREENSHOTS; VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the
-    // catalogue does not have yet.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                model->enterDemo();
-                ChartsScreen screen(*model);
-                screen.resize(1100, 800);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                const auto donut = screen.donutGeometry();
-                hover(part<QChartView>(screen, "donutChart")->viewport(),
-                      (donut.centre + QPointF(0, -(donut.innerRadius + donut.outerRadius) / 2)).toPoint());
-                QTest::qWait(20);
-                QVERIFY(screen.grab().save(QStringLiteral("%1/charts-%2-%3.png")
-                                               .arg(folder, english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                    theme == AppTheme::dark ? QStringLiteral("dark")
-                                                                            : QStringLiteral("light"))));
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

@@ -4,7 +4,6 @@
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
 #include <QDialog>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,7 +12,6 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
 
 #include "app/model/DisplayText.hpp"
@@ -23,7 +21,6 @@
 #include "app/screens/GoalDialogs.hpp"
 #include "app/screens/GoalsScreen.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/planning/GoalProgress.hpp"
 
 using namespace vantello;
@@ -54,27 +51,6 @@ Widget* part(const QWidget& parent, const char* name) {
 }
 
 QString cardText(const QWidget& screen, const char* name) { return part<QLabel>(screen, name)->text(); }
-
-// The Italian texts in another language, read from "italian<TAB>translation" lines, for looking
-// at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 }  // namespace
 
@@ -173,53 +149,6 @@ private Q_SLOTS:
         QCOMPARE(model->ledger().data().savingsGoals.front().name, std::string("Bici nuova"));
         QCOMPARE(part<QStackedWidget>(screen, "goalsPages")->currentIndex(), 1);
         QCOMPARE(cardText(screen, "goalStatus"), goalStatusText(GoalStatus::noDeadline));
-    }
-
-    // Renders the screen, its empty state and the contributions sheet in both languages and
-    // themes when VANTELLO_SCREENSHOTS names a folder; VANTELLO_SCREENSHOT_TEXTS may name a table
-    // of English texts the catalogue lacks.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                const QString suffix = QStringLiteral("%1-%2").arg(
-                    english ? QStringLiteral("en") : QStringLiteral("it"),
-                    theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
-                for (const bool demo : {true, false}) {
-                    auto model = place.model();
-                    if (demo) model->enterDemo();
-                    GoalsScreen screen(*model);
-                    screen.resize(760, 420);
-                    screen.show();
-                    QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                    QTest::qWait(20);
-                    QVERIFY(screen.grab().save(QStringLiteral("%1/goals-%2-%3.png")
-                                                   .arg(folder, demo ? QStringLiteral("demo") : QStringLiteral("empty"), suffix)));
-                    if (!demo) continue;
-                    part<QPushButton>(screen, "goalContributionsButton")->click();
-                    auto* sheet = part<GoalContributionDialog>(screen, "goalContributionDialog");
-                    QVERIFY(QTest::qWaitForWindowExposed(sheet));
-                    QVERIFY(sheet->grab().save(QStringLiteral("%1/goals-sheet-%2.png").arg(folder, suffix)));
-                    sheet->reject();
-                    part<QPushButton>(screen, "editGoalButton")->click();
-                    auto* editor = part<GoalEditor>(screen, "goalEditor");
-                    QVERIFY(QTest::qWaitForWindowExposed(editor));
-                    QVERIFY(editor->grab().save(QStringLiteral("%1/goals-editor-%2.png").arg(folder, suffix)));
-                    editor->reject();
-                }
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

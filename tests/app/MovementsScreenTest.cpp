@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QPushButton>
@@ -14,7 +13,6 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QToolButton>
-#include <QTranslator>
 #include <QTreeView>
 #include <QtTest>
 
@@ -23,9 +21,7 @@
 #include "app/model/MonthMovementsModel.hpp"
 #include "app/screens/MovementsScreen.hpp"
 #include "app/screens/SummaryTile.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 
 #include <set>
 
@@ -63,27 +59,6 @@ std::vector<int> movementRows(const MonthMovementsModel& rows) {
     }
     return found;
 }
-
-// The Italian texts of the screen in another language, read from "italian<TAB>translation" lines,
-// for looking at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 }  // namespace
 
@@ -406,10 +381,6 @@ private Q_SLOTS:
         QVERIFY(roleOf(1, MonthMovementsModel::IsSharedRole).toBool());
         QCOMPARE(roleOf(2, MonthMovementsModel::AccountTextRole).toString(), QStringLiteral("Conto principale → Carta"));
         QCOMPARE(roleOf(3, MonthMovementsModel::AccountTextRole).toString(), QStringLiteral("Conto principale"));
-        if (const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS"); !folder.isEmpty()) {
-            list->scrollTo(rows.index(rows.rowOf(movements[0].id)), QAbstractItemView::PositionAtTop);
-            QVERIFY(screen.grab().save(folder + QStringLiteral("/movements-markers.png")));
-        }
         QCOMPARE(roleOf(3, Qt::AccessibleTextRole).toString(),
                  QStringLiteral("Spesa alimentare, Mercato 3, Conto principale, ") +
                      movementAmountText(Decimal(4), TransactionKind::expense));
@@ -421,43 +392,6 @@ private Q_SLOTS:
         QCOMPARE(reset.count(), 0);
         model->showPreviousMonth();
         QCOMPARE(reset.count(), 1);
-    }
-
-    // Renders the screen in both languages and in a light and a dark theme when a folder is named
-    // in VANTELLO_SCREENSHOTS; VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the
-    // catalogue does not have yet.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                for (const QString& state : {QStringLiteral("demo"), QStringLiteral("february"), QStringLiteral("start")}) {
-                    auto model = place.model();
-                    if (state != QStringLiteral("start")) model->enterDemo();
-                    if (state == QStringLiteral("february")) model->showPreviousMonth();
-                    MovementsScreen screen(*model);
-                    screen.resize(1280, 800);
-                    screen.show();
-                    QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                    QTest::qWait(20);
-                    const QString name = QStringLiteral("%1/movements-%2-%3-%4.png")
-                                             .arg(folder, english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                  theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"),
-                                                  state);
-                    QVERIFY(screen.grab().save(name));
-                }
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

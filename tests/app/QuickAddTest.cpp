@@ -16,9 +16,7 @@
 #include "app/model/ProfilesController.hpp"
 #include "app/screens/QuickAddPanel.hpp"
 #include "app/screens/QuickAddTray.hpp"
-#include "app/settings/Language.hpp"
 #include "app/settings/QuickAddSetting.hpp"
-#include "app/settings/ThemeApplication.hpp"
 
 using namespace vantello;
 using namespace vantello::app;
@@ -114,30 +112,6 @@ private Q_SLOTS:
         QuickAddTray tray(place.profiles, place.preferences);
         tray.followPreference();
         QVERIFY(!tray.isIconVisible());
-    }
-
-    // Set VANTELLO_SCREENSHOTS to a folder to get the panel drawn in Italian and English, light
-    // and dark, with an error shown.
-    void drawsThePanel() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("VANTELLO_SCREENSHOTS not set");
-        Workplace place;
-        const auto drawAll = [&](const QString& language) {
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                QuickAddPanel panel(place.profiles);
-                panel.show();
-                child<QLineEdit>(&panel, "quickAddAmount")->setText(QStringLiteral("12,5x"));
-                child<QPushButton>(&panel, "quickAddButton")->click();
-                QTest::qWait(20);
-                panel.grab().save(QStringLiteral("%1/quickadd-%2-%3.png").arg(folder, language, rawValue(theme)));
-            }
-        };
-        drawAll(QStringLiteral("it"));
-        Preferences().setValue(QStringLiteral("language"), QStringLiteral("en"));
-        installInterfaceLanguage(*qApp);
-        drawAll(QStringLiteral("en"));
-        applyTheme(AppTheme::system);
     }
 };
 

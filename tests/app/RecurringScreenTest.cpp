@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,7 +13,6 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QTreeView>
 #include <QtTest>
 
@@ -24,9 +22,7 @@
 #include "core/ledger/AmountParser.hpp"
 #include "app/screens/RecurringEditor.hpp"
 #include "app/screens/RecurringScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 
 #include <algorithm>
 
@@ -55,51 +51,6 @@ Widget* part(const QObject& screen, const char* name) {
     auto* found = screen.findChild<Widget*>(QString::fromLatin1(name));
     if (!found) qFatal("no widget named %s", name);
     return found;
-}
-
-// The Italian texts of the screen in another language, read from "italian<TAB>translation" lines,
-// for looking at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
-
-// Renders `draw` in both languages and a light and a dark theme into VANTELLO_SCREENSHOTS;
-// VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the catalogue does not have yet.
-template <typename Draw>
-void renderEverywhere(Draw draw) {
-    const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-    if (folder.isEmpty()) QSKIP("no folder for screenshots");
-    for (const bool english : {false, true}) {
-        QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-        if (english) QCoreApplication::installTranslator(&extra);
-        for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-            applyTheme(theme);
-            draw(folder + QLatin1Char('/'),
-                 QStringLiteral("%1-%2").arg(english ? QStringLiteral("en") : QStringLiteral("it"),
-                                             theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light")));
-        }
-        QCoreApplication::removeTranslator(&extra);
-    }
-    QSettings().remove(QStringLiteral("language"));
-    installInterfaceLanguage(*QCoreApplication::instance());
-    applyTheme(AppTheme::system);
 }
 
 }  // namespace
@@ -238,26 +189,6 @@ private Q_SLOTS:
         part<QPushButton>(*question, "confirmDeleteButton")->click();
         QCOMPARE(model->ledger().recurringRules().size(), count - 1);
         QCOMPARE(screen.listModel().rowOf(first.id), -1);
-    }
-
-    void rendersForLookingAt() {
-        Workplace place;
-        renderEverywhere([&](const QString& folder, const QString& suffix) {
-            auto model = place.model();
-            model->enterDemo();
-            RecurringScreen screen(*model);
-            screen.resize(1000, 600);
-            screen.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&screen));
-            QVERIFY(screen.grab().save(folder + QStringLiteral("recurring-") + suffix + QStringLiteral(".png")));
-            screen.addRule();
-            auto* editor = screen.findChild<RecurringEditor*>();
-            part<QLineEdit>(*editor, "amountEdit")->setText(QStringLiteral("dodici"));
-            editor->save();
-            editor->show();
-            QVERIFY(editor->grab().save(folder + QStringLiteral("recurring-editor-") + suffix + QStringLiteral(".png")));
-            editor->reject();
-        });
     }
 };
 

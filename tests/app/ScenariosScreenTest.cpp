@@ -18,9 +18,7 @@
 #include "app/model/LedgerViewModel.hpp"
 #include "app/model/ScenarioOutlook.hpp"
 #include "app/screens/ScenariosScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 
 using namespace vantello;
 using namespace vantello::app;
@@ -170,33 +168,6 @@ private Q_SLOTS:
         qInfo("opening %lld ms", opening);
         QVERIFY(opening < 40);  // 16 ms is the aim; the margin absorbs a busy machine
         QCOMPARE(screen.scenarioSeries()->count(), 12);
-    }
-
-    // Renders in both languages and both themes when VANTELLO_SCREENSHOTS names a folder.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            installInterfaceLanguage(*QCoreApplication::instance(),
-                                     english ? InterfaceLanguage::english : InterfaceLanguage::italian);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                addScenarioAdjustment(*model, ScenarioAdjustment::Category{"ristoranti", -0.3});
-                addScenarioAdjustment(*model, ScenarioAdjustment::MonthlyExpense{*Decimal::fromCanonical("150")});
-                ScenariosScreen screen(*model);
-                screen.resize(1280, 800);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                QTest::qWait(20);
-                QVERIFY(screen.grab().save(QStringLiteral("%1/scenarios-%2-%3.png")
-                                               .arg(folder, english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                    theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"))));
-            }
-        }
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

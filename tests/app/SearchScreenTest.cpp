@@ -21,9 +21,7 @@
 #include "app/model/SearchResultsModel.hpp"
 #include "app/screens/SearchNameDialog.hpp"
 #include "app/screens/SearchScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/base/AtomicFile.hpp"
 
 using namespace vantello;
@@ -217,33 +215,6 @@ private Q_SLOTS:
         qInfo("opening %lld ms, searching %lld ms", opening, typing);
         QVERIFY(screen.resultsModel().count() >= 20'000);
         QVERIFY(typing < 500);
-    }
-
-    // Renders in both languages and both themes when VANTELLO_SCREENSHOTS names a folder.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            installInterfaceLanguage(*QCoreApplication::instance(),
-                                     english ? InterfaceLanguage::english : InterfaceLanguage::italian);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                SearchScreen screen(*model);
-                screen.resize(1280, 800);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                part<QLineEdit>(screen, "searchMinimum")->setText(QStringLiteral("20"));
-                screen.searchNow();
-                QTest::qWait(20);
-                QVERIFY(screen.grab().save(QStringLiteral("%1/search-%2-%3.png")
-                                               .arg(folder, english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                    theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"))));
-            }
-        }
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

@@ -18,7 +18,6 @@
 #include "app/screens/SettingsBackupTab.hpp"
 #include "app/screens/SettingsProfilesTab.hpp"
 #include "app/screens/SettingsWindow.hpp"
-#include "app/settings/Language.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 using namespace vantello;
@@ -155,44 +154,6 @@ private Q_SLOTS:
         QCOMPARE(place.profiles->model().profile()->displayName(), std::string("Mario Rossi"));
         QCOMPARE(list->model()->index(1, 0).data().toString(), QStringLiteral("Mario Rossi (in uso)"));
         QCOMPARE(list->model()->index(0, 0).data().toString(), QStringLiteral("Le mie finanze"));
-    }
-
-    // Set VANTELLO_SCREENSHOTS to a folder to get every tab drawn in Italian and English, light
-    // and dark, for looking at.
-    void drawsEveryTab() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("VANTELLO_SCREENSHOTS not set");
-        Workplace place;
-        place.addMovement("40");
-        place.profiles->addProfile(ManagedProfile::Kind::household, {}, QStringLiteral("Bianchi"));
-        place.profiles->addProfile(ManagedProfile::Kind::person, QStringLiteral("Anna"), QStringLiteral("Verdi"));
-        QSignalSpy reported(&place.profiles->model(), &LedgerViewModel::backupsChanged);
-        place.profiles->model().backUpNow();
-        QVERIFY(reported.wait());
-        const auto drawAll = [&](const QString& language) {
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                SettingsWindow window(*place.profiles, place.preferences);
-                window.show();
-                for (const SettingsTab tab : allSettingsTabs) {
-                    window.showTab(tab);
-                    QTest::qWait(20);
-                    window.grab().save(QStringLiteral("%1/settings-%2-%3-%4.png")
-                                           .arg(folder, rawValue(tab), language, rawValue(theme)));
-                }
-                child<QPushButton>(&window, "addProfileButton")->click();
-                auto* form = child<ProfileForm>(&window, "profileForm");
-                child<QPushButton>(form, "saveProfileButton")->click();
-                QTest::qWait(20);
-                form->grab().save(QStringLiteral("%1/profile-form-%2-%3.png").arg(folder, language, rawValue(theme)));
-                form->close();
-            }
-        };
-        drawAll(QStringLiteral("it"));
-        Preferences().setValue(QStringLiteral("language"), QStringLiteral("en"));
-        installInterfaceLanguage(*qApp);
-        drawAll(QStringLiteral("en"));
-        applyTheme(AppTheme::system);
     }
 };
 

@@ -3,14 +3,12 @@
 
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QTreeView>
 #include <QtTest>
 
@@ -19,7 +17,6 @@
 #include "app/model/SubscriptionListModel.hpp"
 #include "app/screens/SubscriptionsScreen.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/planning/SubscriptionDetection.hpp"
 
 using namespace vantello;
@@ -53,27 +50,6 @@ void selectRow(SubscriptionsScreen& screen, int row) {
     auto* table = part<QTreeView>(screen, "subscriptionsTable");
     table->setCurrentIndex(table->model()->index(row, 0));
 }
-
-// The Italian texts in another language, read from "italian<TAB>translation" lines, for looking
-// at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
 
 }  // namespace
 
@@ -160,38 +136,6 @@ private Q_SLOTS:
         auto model = place.model();
         SubscriptionsScreen screen(*model);
         QCOMPARE(part<QStackedWidget>(screen, "subscriptionsPages")->currentIndex(), 0);
-    }
-
-    // Renders the screen in both languages and themes when VANTELLO_SCREENSHOTS names a folder;
-    // VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the catalogue lacks.
-    void rendersForLookingAt() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("no folder for screenshots");
-        Workplace place;
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-            if (english) QCoreApplication::installTranslator(&extra);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                auto model = place.model();
-                model->enterDemo();
-                SubscriptionsScreen screen(*model);
-                screen.resize(1000, 560);
-                screen.show();
-                QVERIFY(QTest::qWaitForWindowExposed(&screen));
-                selectRow(screen, 1);
-                QTest::qWait(20);
-                QVERIFY(screen.grab().save(QStringLiteral("%1/subscriptions-%2-%3.png")
-                                               .arg(folder, english ? QStringLiteral("en") : QStringLiteral("it"),
-                                                    theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"))));
-            }
-            QCoreApplication::removeTranslator(&extra);
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        applyTheme(AppTheme::system);
     }
 };
 

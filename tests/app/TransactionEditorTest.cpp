@@ -6,7 +6,6 @@
 #include "app/model/SampleData.hpp"
 #include "app/screens/TransactionEditor.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/ledger/LedgerAccounts.hpp"
 #include "core/ledger/LedgerSharing.hpp"
 
@@ -292,50 +291,6 @@ private Q_SLOTS:
         editor.save();
         QCOMPARE(only(*place.model).attachments.size(), std::size_t(1));
         QCOMPARE(place.attachmentFiles(), std::size_t(1));
-    }
-
-    // Set VANTELLO_SCREENSHOTS to a folder to get the sheet drawn in both languages and themes.
-    void screenshots() {
-        const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-        if (folder.isEmpty()) QSKIP("VANTELLO_SCREENSHOTS not set");
-        Workplace place;
-        place.model->enterDemo();
-        ExchangeRates rates;
-        rates.days["2026-03-16"]["USD"] = amount("1.0832");
-        place.model->setExchangeRates(rates);
-        const Transaction* shared = nullptr;
-        for (const Transaction& movement : place.model->ledger().transactions()) {
-            if (!movement.shares.empty()) shared = &movement;
-        }
-        QVERIFY(shared);
-        for (const bool english : {false, true}) {
-            QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-            installInterfaceLanguage(*QCoreApplication::instance());
-            for (const bool dark : {false, true}) {
-                applyTheme(dark ? AppTheme::dark : AppTheme::light);
-                const QString name = folder + (english ? QStringLiteral("/en") : QStringLiteral("/it")) +
-                                     (dark ? QStringLiteral("-dark") : QStringLiteral("-light"));
-                TransactionEditor foreign(*place.model, place.model->newDraft(TransactionKind::expense));
-                foreign.show();
-                pick(foreign, "currencyPicker", QStringLiteral("USD"));
-                type(foreign, "originalAmountEdit", QStringLiteral("54,16"));
-                type(foreign, "noteEdit", QStringLiteral("Libri"));
-                foreign.adjustSize();
-                QVERIFY(foreign.grab().save(name + QStringLiteral("-foreign.png")));
-                TransactionEditor sharing(*place.model, *place.model->draftOf(shared->id));
-                sharing.show();
-                QImage receipt(300, 400, QImage::Format_RGB32);
-                receipt.fill(Qt::darkCyan);
-                QVERIFY(receipt.save(place.home.filePath(QStringLiteral("scontrino.png"))));
-                sharing.attachFile(place.home.filePath(QStringLiteral("scontrino.png")));
-                type(sharing, "amountEdit", QStringLiteral("abc"));
-                sharing.save();
-                sharing.adjustSize();
-                QVERIFY(sharing.grab().save(name + QStringLiteral("-shares.png")));
-            }
-        }
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
     }
 };
 

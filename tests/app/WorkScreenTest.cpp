@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QFile>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,7 +15,6 @@
 #include <QSettings>
 #include <QSpinBox>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
 
 #include "app/model/DisplayText.hpp"
@@ -24,9 +22,7 @@
 #include "app/model/WorkPeriodsModel.hpp"
 #include "app/screens/WorkPeriodEditor.hpp"
 #include "app/screens/WorkScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/planning/WorkStatus.hpp"
 
 using namespace vantello;
@@ -54,51 +50,6 @@ Widget* part(const QObject& screen, const char* name) {
     auto* found = screen.findChild<Widget*>(QString::fromLatin1(name));
     if (!found) qFatal("no widget named %s", name);
     return found;
-}
-
-// The Italian texts of the screen in another language, read from "italian<TAB>translation" lines,
-// for looking at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
-
-// Renders `draw` in both languages and a light and a dark theme into VANTELLO_SCREENSHOTS;
-// VANTELLO_SCREENSHOT_TEXTS may name a table of English texts the catalogue does not have yet.
-template <typename Draw>
-void renderEverywhere(Draw draw) {
-    const QString folder = qEnvironmentVariable("VANTELLO_SCREENSHOTS");
-    if (folder.isEmpty()) QSKIP("no folder for screenshots");
-    for (const bool english : {false, true}) {
-        QSettings().setValue(QStringLiteral("language"), english ? QStringLiteral("en") : QStringLiteral("it"));
-        installInterfaceLanguage(*QCoreApplication::instance());
-        TableTranslator extra(qEnvironmentVariable("VANTELLO_SCREENSHOT_TEXTS"));
-        if (english) QCoreApplication::installTranslator(&extra);
-        for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-            applyTheme(theme);
-            draw(folder + QLatin1Char('/'),
-                 QStringLiteral("%1-%2").arg(english ? QStringLiteral("en") : QStringLiteral("it"),
-                                             theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light")));
-        }
-        QCoreApplication::removeTranslator(&extra);
-    }
-    QSettings().remove(QStringLiteral("language"));
-    installInterfaceLanguage(*QCoreApplication::instance());
-    applyTheme(AppTheme::system);
 }
 
 }  // namespace
@@ -237,28 +188,6 @@ private Q_SLOTS:
         QCOMPARE(line->text(), refused);
         screen.setNotificationMessage(std::nullopt);
         QVERIFY(line->isHidden());
-    }
-
-    void rendersForLookingAt() {
-        Workplace place;
-        renderEverywhere([&](const QString& folder, const QString& suffix) {
-            auto model = place.model();
-            model->enterDemo();
-            WorkScreen screen(*model);
-            addPeriod(screen, QDate(2025, 9, 1), QDate(2025, 10, 15));
-            addPeriod(screen, QDate(2026, 3, 10), std::nullopt);
-            model->setSalaryReminder(SalaryReminder{true, 27, 9});
-            screen.setNotificationMessage(
-                uiText("Le notifiche di Vantello sono disattivate: resterà solo l'avviso nell'app."));
-            screen.resize(900, 760);
-            screen.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&screen));
-            QVERIFY(screen.grab().save(folder + QStringLiteral("work-") + suffix + QStringLiteral(".png")));
-            auto* editor = addPeriod(screen, QDate(2026, 3, 1), std::nullopt);
-            editor->show();
-            QVERIFY(editor->grab().save(folder + QStringLiteral("work-editor-") + suffix + QStringLiteral(".png")));
-            editor->reject();
-        });
     }
 };
 

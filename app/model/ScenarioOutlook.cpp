@@ -186,13 +186,15 @@ void ScenarioOutlook::refresh() {
     tiles_.clear();
     monthLabels_.clear();
     if (result_.basisMonths > 0) {
-        const Decimal baseline = result_.baselineIncome - result_.baselineExpenses;
-        const Decimal scenario = result_.scenarioIncome - result_.scenarioExpenses;
+        // The monthly savings are the core's: its projection's first month, so that both tiles and
+        // the chart agree to the cent (its expenses are the sum of the category averages).
+        const Decimal baseline = result_.projection.empty() ? Decimal() : result_.projection.front().baseline;
+        const Decimal scenario = result_.projection.empty() ? Decimal() : result_.projection.front().scenario;
         const std::string basis = std::to_string(result_.basisMonths);
         tiles_.push_back({QStringLiteral("baselineSavings"), uiText("Risparmio al mese oggi"), savingsText(baseline),
                           uiText("Entrate {income}, uscite {expenses}: media di {months} mesi",
                                  {{"income", utf8(euroText(result_.baselineIncome))},
-                                  {"expenses", utf8(euroText(result_.baselineExpenses))},
+                                  {"expenses", utf8(euroText(result_.baselineIncome - baseline))},
                                   {"months", basis}}),
                           toneOf(baseline), {}, {}});
         tiles_.push_back({QStringLiteral("scenarioSavings"), uiText("Risparmio al mese con lo scenario"),
@@ -212,7 +214,7 @@ void ScenarioOutlook::refresh() {
         }
         for (const auto& point : result_.projection) {
             const CivilDate day = model_.calendar().civilDate(point.month);
-            monthLabels_ << QLocale().toString(QDate(day.year, day.month, 1), QStringLiteral("MMM yy"));
+            monthLabels_ << QLocale().toString(QDate(day.year, day.month, 1), QStringLiteral("MMM"));
         }
     }
     Q_EMIT changed();

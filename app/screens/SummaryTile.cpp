@@ -37,6 +37,7 @@ SummaryTile::SummaryTile(QWidget* parent)
     label_->setFont(small);
     context_->setFont(small);
     context_->setWordWrap(true);
+    label_->setWordWrap(true);  // a long label takes two lines rather than being cut
     QFont large = figure_->font();
     large.setPointSizeF(large.pointSizeF() * 1.6);
     large.setBold(true);

@@ -73,7 +73,11 @@ ScenarioResult simulateScenario(const Ledger& ledger, const std::vector<Scenario
     result.baselineIncome = averageOf(basis.totals.income, basis.months);
     result.baselineExpenses = averageOf(basis.totals.expenses, basis.months);
     std::map<std::string, Decimal> categoryAverages;
-    for (const auto& [categoryID, sum] : basis.categorySums) categoryAverages[categoryID] = averageOf(sum, basis.months);
+    Decimal baselineCategoryExpenses;
+    for (const auto& [categoryID, sum] : basis.categorySums) {
+        categoryAverages[categoryID] = averageOf(sum, basis.months);
+        baselineCategoryExpenses += categoryAverages[categoryID];
+    }
 
     Decimal incomePercent;
     Decimal extraExpenses;
@@ -93,9 +97,10 @@ ScenarioResult simulateScenario(const Ledger& ledger, const std::vector<Scenario
     result.scenarioExpenses = extraExpenses;
     for (const auto& [categoryID, average] : categoryAverages) result.scenarioExpenses += average;
 
-    // The baseline net takes the rounded average of all expenses, not the sum of the rounded
-    // category averages; the two differ by a few cents at most.
-    const Decimal baselineNet = result.baselineIncome - result.baselineExpenses;
+    // Both nets take the expenses as the sum of the rounded category averages, the scenario's
+    // adjusted: without adjustments the two lines are the same to the cent. The rounded average
+    // of all expenses (`baselineExpenses`) can differ from that sum by a few cents.
+    const Decimal baselineNet = result.baselineIncome - baselineCategoryExpenses;
     const Decimal scenarioNet = result.scenarioIncome - result.scenarioExpenses;
     for (int ahead = 1; ahead <= projectedMonths; ++ahead) {
         if (const auto month = calendar.adding(CalendarUnit::month, ahead, currentMonthStart)) {

@@ -79,6 +79,20 @@ TEST(Scenario, AdjustmentsChangeTheAverageMonth) {
     EXPECT_EQ(result.projection[11].scenario, amount("10730.04"));
 }
 
+TEST(Scenario, WithoutAdjustmentsBothLinesAreTheSameToTheCent) {
+    // 200 over three months is 66.67 as a whole but 33.33 + 33.33 by category.
+    std::vector<Transaction> movements;
+    for (int month = 1; month <= 3; ++month) movements.push_back(income("1000", at(2025, month, 27)));
+    movements.push_back(expense("100", at(2025, 1, 5), "spesa"));
+    movements.push_back(expense("100", at(2025, 2, 5), "svago"));
+    const ScenarioResult result = simulate(movements, {});
+    EXPECT_EQ(result.baselineExpenses, amount("66.67"));
+    EXPECT_EQ(result.scenarioExpenses, amount("66.66"));
+    ASSERT_EQ(result.projection.size(), 12u);
+    EXPECT_EQ(result.projection[0].baseline, amount("933.34"));
+    EXPECT_EQ(result.projection[11].baseline, result.projection[11].scenario);
+}
+
 TEST(Scenario, GoalDatesAtEachMonthlyNet) {
     std::vector<Transaction> movements;
     for (int month = 1; month <= 3; ++month) {

@@ -16,6 +16,11 @@ QString uiText(std::string_view italianKey,
     return QString::fromStdString(L10n::tr(italianKey, values));
 }
 
+QString countedText(int count, std::string_view one, std::string_view many) {
+    const std::string number = std::to_string(count);
+    return uiText(count == 1 ? one : many, {{"count", number}});
+}
+
 QString euroText(const Decimal& amount) {
     return QString::fromStdString(PeopleFormat::euro(amount, interfaceLocaleName()));
 }

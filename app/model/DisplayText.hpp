@@ -22,6 +22,10 @@ namespace vantello::app {
 [[nodiscard]] QString uiText(std::string_view italianKey,
                              std::initializer_list<std::pair<std::string_view, std::string_view>> values);
 
+// A count in its singular or plural text ("{count} movimento", "{count} movimenti"): the
+// catalogue has no plural rules, so each form is a key of its own.
+[[nodiscard]] QString countedText(int count, std::string_view one, std::string_view many);
+
 // An amount in euros, sign as the number has it.
 [[nodiscard]] QString euroText(const Decimal& amount);
 // A movement's amount with its direction: "+1.250,00 €" for income, "−12,50 €" for an expense.

@@ -34,11 +34,6 @@ using AmountMode = CSVImportOptions::AmountMode;
 constexpr int noColumn = -1;
 constexpr int headerRowsOffered = 15;
 
-QString counted(int count, std::string_view one, std::string_view many) {
-    const std::string number = std::to_string(count);
-    return count == 1 ? uiText(one, {{"count", number}}) : uiText(many, {{"count", number}});
-}
-
 // Why the core proposed an option, in a few words; nothing for a rule without a reading.
 QString ruleText(const std::string& rule) {
     static const std::map<std::string, std::string_view, std::less<>> texts{
@@ -388,10 +383,10 @@ void ImportSheet::refresh() {
     fileLabel_->setText(
         uiText("{file} · {format}", {{"file", session->fileName.toStdString()}, {"format", format.toStdString()}}));
     preview_->setStatement(statement, model_.ledger().allCategories());
-    QString counts = counted(preview_->importableCount(), L10n::key("{count} movimento da importare"),
+    QString counts = countedText(preview_->importableCount(), L10n::key("{count} movimento da importare"),
                              L10n::key("{count} movimenti da importare"));
     if (preview_->problemCount() > 0) {
-        counts += QStringLiteral(" · ") + counted(preview_->problemCount(), L10n::key("{count} riga con un problema"),
+        counts += QStringLiteral(" · ") + countedText(preview_->problemCount(), L10n::key("{count} riga con un problema"),
                                                   L10n::key("{count} righe con un problema"));
     }
     countsLabel_->setText(counts);
@@ -491,7 +486,7 @@ void ImportSheet::refreshOutcome() {
     repeatedLabel_->setVisible(repeats);
     if (repeats) {
         repeatedLabel_->setText(
-            counted(single.repeatedInStatement,
+            countedText(single.repeatedInStatement,
                     L10n::key("{count} movimento del file è uguale a uno precedente dello stesso file "
                               "(per esempio due biglietti dello stesso giorno): senza questa scelta "
                               "ne viene importato uno solo."),
@@ -505,13 +500,13 @@ void ImportSheet::refreshOutcome() {
                                       : single;
     QStringList parts;
     parts << (expected.added == 0 ? uiText("Nessun movimento nuovo da aggiungere")
-                                  : counted(expected.added, L10n::key("Sarà aggiunto {count} movimento"),
+                                  : countedText(expected.added, L10n::key("Sarà aggiunto {count} movimento"),
                                             L10n::key("Saranno aggiunti {count} movimenti")));
     if (expected.duplicates > 0) {
-        parts << counted(expected.duplicates, L10n::key("{count} già presente"), L10n::key("{count} già presenti"));
+        parts << countedText(expected.duplicates, L10n::key("{count} già presente"), L10n::key("{count} già presenti"));
     }
     if (expected.transfers > 0)
-        parts << counted(expected.transfers, L10n::key("{count} giroconto"), L10n::key("{count} giroconti"));
+        parts << countedText(expected.transfers, L10n::key("{count} giroconto"), L10n::key("{count} giroconti"));
     expectedLabel_->setText(parts.join(QStringLiteral(" · ")));
 }
 

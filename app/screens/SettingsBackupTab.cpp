@@ -1,6 +1,7 @@
 #include "app/screens/SettingsBackupTab.hpp"
 
 #include "app/model/DisplayText.hpp"
+#include "app/screens/NamedButton.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 #include <QDesktopServices>
@@ -21,12 +22,6 @@ namespace vantello::app {
 
 namespace {
 
-QPushButton* button(const QString& text, const char* objectName, QWidget* parent) {
-    auto* made = new QPushButton(text, parent);
-    made->setObjectName(QString::fromLatin1(objectName));
-    made->setAccessibleName(text);
-    return made;
-}
 
 }  // namespace
 
@@ -54,10 +49,10 @@ SettingsBackupTab::SettingsBackupTab(ProfilesController& profiles, QWidget* pare
     layout->addLayout(facts);
 
     auto* folderButtons = new QHBoxLayout;
-    backUpNow_ = button(uiText("Esegui un backup ora"), "backUpNowButton", this);
-    chooseFolder_ = button(uiText("Scegli cartella…"), "chooseBackupFolderButton", this);
-    defaultFolder_ = button(uiText("Usa la cartella predefinita"), "defaultBackupFolderButton", this);
-    showFolder_ = button(uiText("Mostra nella cartella"), "showBackupFolderButton", this);
+    backUpNow_ = namedButton(uiText("Esegui un backup ora"), "backUpNowButton", this);
+    chooseFolder_ = namedButton(uiText("Scegli cartella…"), "chooseBackupFolderButton", this);
+    defaultFolder_ = namedButton(uiText("Usa la cartella predefinita"), "defaultBackupFolderButton", this);
+    showFolder_ = namedButton(uiText("Mostra nella cartella"), "showBackupFolderButton", this);
     for (QPushButton* each : {backUpNow_, chooseFolder_, defaultFolder_, showFolder_}) folderButtons->addWidget(each);
     folderButtons->addStretch(1);
     layout->addLayout(folderButtons);
@@ -90,7 +85,7 @@ SettingsBackupTab::SettingsBackupTab(ProfilesController& profiles, QWidget* pare
     list_->setUniformItemSizes(true);
     listHeading->setBuddy(list_);
     layout->addWidget(list_, 1);
-    restore_ = button(uiText("Ripristina…"), "restoreBackupButton", this);
+    restore_ = namedButton(uiText("Ripristina…"), "restoreBackupButton", this);
     layout->addWidget(restore_, 0, Qt::AlignRight);
 
     connect(backUpNow_, &QPushButton::clicked, this, [this] {

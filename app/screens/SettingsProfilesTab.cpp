@@ -1,6 +1,7 @@
 #include "app/screens/SettingsProfilesTab.hpp"
 
 #include "app/model/DisplayText.hpp"
+#include "app/screens/NamedButton.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 #include <QDialogButtonBox>
@@ -18,12 +19,6 @@ namespace vantello::app {
 
 namespace {
 
-QPushButton* button(const QString& text, const char* objectName, QWidget* parent) {
-    auto* made = new QPushButton(text, parent);
-    made->setObjectName(QString::fromLatin1(objectName));
-    made->setAccessibleName(text);
-    return made;
-}
 
 void showError(QLabel* label, const std::optional<QString>& message) {
     label->setText(message.value_or(QString()));
@@ -143,10 +138,10 @@ SettingsProfilesTab::SettingsProfilesTab(ProfilesController& profiles, QWidget* 
     layout->addWidget(error_);
 
     auto* buttons = new QHBoxLayout;
-    add_ = button(uiText("Aggiungi…"), "addProfileButton", this);
-    rename_ = button(uiText("Rinomina…"), "renameProfileButton", this);
-    remove_ = button(uiText("Elimina…"), "removeProfileButton", this);
-    use_ = button(uiText("Passa a questa"), "useProfileButton", this);
+    add_ = namedButton(uiText("Aggiungi…"), "addProfileButton", this);
+    rename_ = namedButton(uiText("Rinomina…"), "renameProfileButton", this);
+    remove_ = namedButton(uiText("Elimina…"), "removeProfileButton", this);
+    use_ = namedButton(uiText("Passa a questa"), "useProfileButton", this);
     buttons->addWidget(add_);
     buttons->addWidget(rename_);
     buttons->addWidget(remove_);

@@ -9,17 +9,25 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QThread>
 
 namespace vantello::app {
 
 namespace {
 
-// Lets layouts settle and pending paints run before a picture is taken.
+// Lets layouts settle, pending paints run and short timers fire (the search waits a moment
+// after it is shown) before a picture is taken.
 void settle() {
-    for (int round = 0; round < 3; ++round) QApplication::processEvents();
+    QElapsedTimer waited;
+    waited.start();
+    while (waited.elapsed() < 250) {
+        QApplication::processEvents(QEventLoop::AllEvents, 50);
+        QThread::msleep(10);
+    }
 }
 
 class Camera {

@@ -2315,7 +2315,7 @@ off with that day and hour.
         </message>
         <message>
             <source>Mese diretto verso un saldo negativo</source>
-            <translation>Month heading for a negative balance</translation>
+            <translation>A month on course for a negative balance</translation>
         </message>
         <message>
             <source>Modifica obiettivo</source>

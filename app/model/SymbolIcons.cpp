@@ -13,8 +13,8 @@ namespace vantello::app {
 namespace {
 
 // Symbol names of the ledger (those of the built-in categories and accounts first, then the
-// ones the pickers offer) and the icon of the freedesktop naming specification, or of the
-// Adwaita theme where the specification has none, that shows the same thing.
+// ones the pickers offer) and the freedesktop icon name that shows the same thing, taken from
+// Adwaita where the standard list of icon names has none.
 constexpr std::pair<std::string_view, const char*> table[] = {
     {"cart", "emoji-objects"},
     {"house", "go-home"},

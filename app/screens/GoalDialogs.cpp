@@ -19,6 +19,7 @@
 #include "app/model/GoalActions.hpp"
 #include "app/model/GoalContributionsModel.hpp"
 #include "app/model/SymbolIcons.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 #include <array>
@@ -26,13 +27,6 @@
 namespace vantello::app {
 
 namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QString::fromLatin1(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 QLabel* errorLabel() {
     auto* label = named(new QLabel, "goalError", uiText("Errore"));

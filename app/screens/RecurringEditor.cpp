@@ -4,6 +4,7 @@
 #include "app/model/EditorChoices.hpp"
 #include "app/model/RecurringActions.hpp"
 #include "app/model/RecurringRulesModel.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/settings/ThemeApplication.hpp"
 #include "core/ledger/TransactionCategory.hpp"
 
@@ -23,27 +24,12 @@ namespace vantello::app {
 
 namespace {
 
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QString::fromLatin1(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
-
 QComboBox* picker(EditorChoiceModel* choices, const char* objectName, const QString& accessibleName) {
     auto* box = named(new QComboBox, objectName, accessibleName);
     box->setModel(choices);
     return box;
 }
 
-// Each widget after the one before it, in the order given.
-void chainTabOrder(std::initializer_list<QWidget*> widgets) {
-    QWidget* previous = nullptr;
-    for (QWidget* widget : widgets) {
-        if (previous) QWidget::setTabOrder(previous, widget);
-        previous = widget;
-    }
-}
 
 QDate qtDate(CivilDate day) { return {day.year, day.month, day.day}; }
 

@@ -4,6 +4,7 @@
 #include "app/model/RecurringActions.hpp"
 #include "app/model/RecurringRulesModel.hpp"
 #include "app/screens/RecurringEditor.hpp"
+#include "app/screens/ScreenControls.hpp"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -16,35 +17,6 @@
 #include <QVBoxLayout>
 
 namespace vantello::app {
-
-namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QString::fromLatin1(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
-
-// Each widget after the one before it, in the order given.
-void chainTabOrder(std::initializer_list<QWidget*> widgets) {
-    QWidget* previous = nullptr;
-    for (QWidget* widget : widgets) {
-        if (previous) QWidget::setTabOrder(previous, widget);
-        previous = widget;
-    }
-}
-
-QLabel* titleLabel(const QString& text) {
-    auto* title = new QLabel(text);
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.5);
-    font.setBold(true);
-    title->setFont(font);
-    return title;
-}
-
-}  // namespace
 
 RecurringScreen::RecurringScreen(LedgerViewModel& model, QWidget* parent)
     : QWidget(parent), model_(model), rules_(new RecurringRulesModel(model, this)) {

@@ -3,6 +3,7 @@
 #include "app/model/DisplayText.hpp"
 #include "app/model/EditorChoices.hpp"
 #include "app/model/RuleActions.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 #include <QComboBox>
@@ -18,13 +19,6 @@
 namespace vantello::app {
 
 namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QString::fromLatin1(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 // Expense categories first, then income ones, each named with its kind when both kinds share
 // a name.

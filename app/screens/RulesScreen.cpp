@@ -5,6 +5,7 @@
 #include "app/model/RuleListModel.hpp"
 #include "app/screens/MovementsCard.hpp"
 #include "app/screens/RuleEditor.hpp"
+#include "app/screens/ScreenControls.hpp"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -19,34 +20,6 @@
 #include <QVBoxLayout>
 
 namespace vantello::app {
-
-namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QString::fromLatin1(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
-
-void chainTabOrder(std::initializer_list<QWidget*> widgets) {
-    QWidget* previous = nullptr;
-    for (QWidget* widget : widgets) {
-        if (previous) QWidget::setTabOrder(previous, widget);
-        previous = widget;
-    }
-}
-
-QLabel* titleLabel(const QString& text) {
-    auto* title = new QLabel(text);
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.5);
-    font.setBold(true);
-    title->setFont(font);
-    return title;
-}
-
-}  // namespace
 
 RulesScreen::RulesScreen(LedgerViewModel& model, QWidget* parent)
     : QWidget(parent), model_(model), rules_(new RuleListModel(model, this)) {

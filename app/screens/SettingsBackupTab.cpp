@@ -1,7 +1,7 @@
 #include "app/screens/SettingsBackupTab.hpp"
 
 #include "app/model/DisplayText.hpp"
-#include "app/screens/NamedButton.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 #include <QDesktopServices>
@@ -19,11 +19,6 @@
 #include <string>
 
 namespace vantello::app {
-
-namespace {
-
-
-}  // namespace
 
 SettingsBackupTab::SettingsBackupTab(ProfilesController& profiles, QWidget* parent)
     : QWidget(parent), profiles_(profiles), backups_(profiles) {

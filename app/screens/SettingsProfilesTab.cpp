@@ -1,7 +1,7 @@
 #include "app/screens/SettingsProfilesTab.hpp"
 
 #include "app/model/DisplayText.hpp"
-#include "app/screens/NamedButton.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 #include <QDialogButtonBox>

@@ -5,6 +5,7 @@
 #include "app/model/EditorChoices.hpp"
 #include "app/model/EditorConversion.hpp"
 #include "app/model/EditorShares.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/settings/Language.hpp"
 #include "app/settings/ThemeApplication.hpp"
 #include "core/ledger/AmountParser.hpp"
@@ -48,13 +49,6 @@ QString dateFormat() {
     QString format = interfaceLocale().dateFormat(QLocale::ShortFormat);
     if (!format.contains(QLatin1String("yyyy"))) format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
     return format;
-}
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QLatin1String(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
 }
 
 QComboBox* picker(EditorChoiceModel* choices, const char* objectName, const QString& accessibleName) {

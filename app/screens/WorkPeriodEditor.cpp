@@ -1,6 +1,7 @@
 #include "app/screens/WorkPeriodEditor.hpp"
 
 #include "app/model/DisplayText.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
 #include <QCheckBox>
@@ -15,13 +16,6 @@
 namespace vantello::app {
 
 namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QString::fromLatin1(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
 
 QDate qtDate(CivilDate day) { return {day.year, day.month, day.day}; }
 

@@ -4,6 +4,7 @@
 #include "app/model/WorkPeriodsModel.hpp"
 #include "app/notifications/NotificationService.hpp"
 #include "app/screens/MovementsCard.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/screens/WorkPeriodEditor.hpp"
 
 #include <QCheckBox>
@@ -22,30 +23,6 @@
 namespace vantello::app {
 
 namespace {
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName, const QString& accessibleName) {
-    widget->setObjectName(QString::fromLatin1(objectName));
-    widget->setAccessibleName(accessibleName);
-    return widget;
-}
-
-void chainTabOrder(std::initializer_list<QWidget*> widgets) {
-    QWidget* previous = nullptr;
-    for (QWidget* widget : widgets) {
-        if (previous) QWidget::setTabOrder(previous, widget);
-        previous = widget;
-    }
-}
-
-QLabel* titleLabel(const QString& text, double scale) {
-    auto* title = new QLabel(text);
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * scale);
-    font.setBold(true);
-    title->setFont(font);
-    return title;
-}
 
 QLabel* wrapped(QLabel* label) {
     label->setWordWrap(true);

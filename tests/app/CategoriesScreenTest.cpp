@@ -21,26 +21,13 @@
 #include "app/screens/CategoriesScreen.hpp"
 #include "app/screens/CategoryDialog.hpp"
 #include "app/settings/Language.hpp"
+#include "tests/app/ScreenWorkplace.hpp"
 
 using namespace vantello;
 using namespace vantello::app;
+using namespace vantello::app::testing;
 
 namespace {
-
-const Calendar rome("Europe/Rome");
-
-Instant noon(int year, int month, int day) { return *rome.date({year, month, day}, 12); }
-
-struct Workplace {
-    QTemporaryDir home;
-    std::filesystem::path folder = std::filesystem::path(home.path().toStdString()) / "Vantello";
-    Preferences preferences{home.path() + QStringLiteral("/Vantello.conf")};
-
-    std::unique_ptr<LedgerViewModel> model() {
-        return std::make_unique<LedgerViewModel>(LedgerViewModel::Setup{
-            folder, std::nullopt, rome, [] { return noon(2026, 3, 18); }, &preferences, folder / "Backup"});
-    }
-};
 
 template <typename Widget>
 Widget* part(const QWidget& screen, const char* name) {

@@ -32,10 +32,16 @@ QString monthKey(Instant month, const Calendar& calendar) {
 }  // namespace
 
 std::vector<QColor> chartSliceColours(const ThemePalette& palette) {
+    const bool dark = palette.windowBackground.lightness() < 128;
+    if (palette == ThemePalette::solarizedLight() || palette == ThemePalette::solarizedDark()) {
+        // Solarized's own accents (blue, yellow, cyan, magenta, violet), leaving its green and red
+        // to income and expenses; "others" in its grey for secondary content.
+        return {QColor(0x26, 0x8b, 0xd2), QColor(0xb5, 0x89, 0x00), QColor(0x2a, 0xa1, 0x98),
+                QColor(0xd3, 0x36, 0x82), QColor(0x6c, 0x71, 0xc4), dark ? QColor(0x58, 0x6e, 0x75) : QColor(0x93, 0xa1, 0xa1)};
+    }
     // Hues far enough apart to be told apart also by most colour-blind readers.
     static const std::vector<QColor> base{QColor(0x3b, 0x82, 0xc4), QColor(0xe0, 0x8a, 0x1e), QColor(0x2e, 0x9e, 0x7a),
                                           QColor(0xc2, 0x4f, 0x8a), QColor(0x8c, 0x6b, 0xc9)};
-    const bool dark = palette.windowBackground.lightness() < 128;
     std::vector<QColor> colours;
     for (const QColor& colour : base) colours.push_back(dark ? colour.lighter(125) : colour);
     colours.push_back(dark ? QColor(0x8a, 0x8f, 0x98) : QColor(0x9a, 0x9f, 0xa8));

@@ -1,9 +1,9 @@
 #include "app/model/LedgerViewModel.hpp"
 
+#include "app/model/LedgerAnalyses.hpp"
 #include "app/model/SampleData.hpp"
 #include "core/analysis/AccountLedger.hpp"
 #include "core/analysis/MonthTransactions.hpp"
-#include "core/analysis/SmartAlerts.hpp"
 #include "core/base/Localization.hpp"
 #include "core/ledger/LedgerRecurring.hpp"
 
@@ -50,6 +50,7 @@ LedgerViewModel::LedgerViewModel(Setup setup, QObject* parent)
             },
         .written = {},
     });
+    analyses_ = new LedgerAnalyses(*this);
     if (!setup.dataFolder) {
         setErrorMessage(text(L10n::tr("Non trovo la cartella dei dati: le modifiche non verranno salvate.")));
         return;
@@ -266,8 +267,7 @@ const std::vector<Transaction>& LedgerViewModel::monthTransactions() {
 }
 
 const std::vector<SmartAlert>& LedgerViewModel::alerts() {
-    return remembered(alerts_.inputs, alerts_.value, std::tuple{revision_, calendar_.startOfDay(now_()), alertSettings_},
-                      [&] { return smartAlerts(ledger_, alertSettings_, ledger_.data().dismissedAlerts, now_(), calendar_); });
+    return analyses_->alerts();
 }
 
 // ---- work, the salary reminder and the alerts' settings

@@ -40,6 +40,8 @@
 
 namespace vantello::app {
 
+class LedgerAnalyses;
+
 class LedgerViewModel : public QObject {
     Q_OBJECT
 
@@ -228,6 +230,8 @@ public:
     [[nodiscard]] const MonthSummary& monthSummary();
     [[nodiscard]] const std::vector<Transaction>& monthTransactions();
     [[nodiscard]] const std::vector<SmartAlert>& alerts();
+    // The analyses of the whole history, worked out ahead after each change.
+    [[nodiscard]] LedgerAnalyses& analyses() { return *analyses_; }
 
 Q_SIGNALS:
     void ledgerChanged();
@@ -308,7 +312,7 @@ private:
     Memo<Ledger, std::tuple<std::uint64_t, std::optional<std::string>>> visibleLedger_;
     Memo<MonthSummary, MonthInputs> monthSummary_;
     Memo<std::vector<Transaction>, MonthInputs> monthTransactions_;
-    Memo<std::vector<SmartAlert>, std::tuple<std::uint64_t, Instant, AlertSettings>> alerts_;
+    LedgerAnalyses* analyses_ = nullptr;  // a child of this object
 };
 
 }  // namespace vantello::app

@@ -82,7 +82,7 @@ void MonthMovementsModel::rebuild() {
     const auto closeDay = [&] {
         if (rows_.empty()) return;
         Row& header = rows_[headerIndex];
-        header.amountText = signedNetText(dayTotals.net());
+        header.amount = dayTotals.net();
         header.sign = dayTotals.net().sign();
         header.isIncome = header.sign > 0;
     };
@@ -115,10 +115,11 @@ void MonthMovementsModel::rebuild() {
         if (row.isTransfer) {
             row.accountText = accountName(movement.accountID) + QStringLiteral(" \u2192 ") +
                               accountName(*movement.transferToAccountID);
-            row.amountText = euroText(movement.amount);
+            row.amount = movement.amount;
         } else {
             if (manyAccounts) row.accountText = accountName(movement.accountID);
-            row.amountText = movementAmountText(movement.amount, movement.kind);
+            row.amount = movement.amount;
+            row.movementKind = movement.kind;
             row.isIncome = movement.kind == TransactionKind::income;
             row.sign = row.isIncome ? 1 : -1;
         }
@@ -156,7 +157,7 @@ QVariant MonthMovementsModel::data(const QModelIndex& index, int role) const {
         case IconNameRole: return row.iconName;
         case NoteRole: return row.note;
         case AccountTextRole: return row.accountText;
-        case AmountTextRole: return row.amountText;
+        case AmountTextRole: return amountTextOf(row);
         case IsIncomeRole: return row.isIncome;
         case IsTransferRole: return row.isTransfer;
         case SignRole: return row.sign;
@@ -166,15 +167,28 @@ QVariant MonthMovementsModel::data(const QModelIndex& index, int role) const {
     }
 }
 
+const QString& MonthMovementsModel::amountTextOf(const Row& row) {
+    if (!row.amountText) {
+        if (row.kind == RowKind::dayHeader) {
+            row.amountText = signedNetText(row.amount);
+        } else if (row.isTransfer) {
+            row.amountText = euroText(row.amount);
+        } else {
+            row.amountText = movementAmountText(row.amount, row.movementKind);
+        }
+    }
+    return *row.amountText;
+}
+
 QString MonthMovementsModel::accessibleText(const Row& row) const {
     if (row.kind == RowKind::dayHeader) {
         return uiText("{day}, saldo del giorno {amount}",
-                      {{"day", row.dayText.toStdString()}, {"amount", row.amountText.toStdString()}});
+                      {{"day", row.dayText.toStdString()}, {"amount", amountTextOf(row).toStdString()}});
     }
     QStringList parts{row.categoryName};
     if (!row.note.isEmpty()) parts << row.note;
     if (!row.accountText.isEmpty()) parts << row.accountText;
-    parts << row.amountText;
+    parts << amountTextOf(row);
     if (row.hasAttachments) parts << uiText("Con allegati");
     if (row.isShared) parts << uiText("Divisa con altre persone");
     return parts.join(QStringLiteral(", "));
@@ -230,7 +244,7 @@ QJsonArray MonthMovementsModel::rowsAsJson() const {
         object[QStringLiteral("kind")] =
             row.kind == RowKind::dayHeader ? QStringLiteral("day") : QStringLiteral("movement");
         object[QStringLiteral("day")] = row.dayText;
-        object[QStringLiteral("amount")] = row.amountText;
+        object[QStringLiteral("amount")] = amountTextOf(row);
         if (row.kind == RowKind::movement) {
             object[QStringLiteral("id")] = qText(row.id.text());
             object[QStringLiteral("category")] = row.categoryName;

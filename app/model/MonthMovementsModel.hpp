@@ -75,7 +75,11 @@ private:
         QIcon icon;
         QString note;
         QString accountText;
-        QString amountText;
+        // The day's net for a header, the movement's amount otherwise; written out when first
+        // shown, as a month of a thousand movements shows a few dozen at a time.
+        Decimal amount;
+        TransactionKind movementKind = TransactionKind::expense;
+        mutable std::optional<QString> amountText;
         bool isIncome = false;
         bool isTransfer = false;
         int sign = 0;
@@ -86,6 +90,7 @@ private:
 
     void rebuild();
     [[nodiscard]] QString accessibleText(const Row& row) const;
+    [[nodiscard]] static const QString& amountTextOf(const Row& row);
 
     LedgerViewModel& model_;
     std::optional<Inputs> inputs_;

@@ -1,6 +1,7 @@
 #include "app/model/PeopleModels.hpp"
 
 #include "app/model/DisplayText.hpp"
+#include "app/model/LedgerAnalyses.hpp"
 #include "core/ledger/LedgerSharing.hpp"
 
 #include <algorithm>
@@ -23,9 +24,9 @@ PeopleListModel::PeopleListModel(LedgerViewModel& model, QObject* parent) : Weal
 
 void PeopleListModel::refresh() {
     std::vector<Row> rows;
-    const Ledger& ledger = model_.ledger();
-    for (const Person& person : ledger.people()) {
-        const Decimal balance = personBalance(ledger, person.id);
+    const std::map<Uuid, Decimal>& balances = model_.analyses().peopleBalances();
+    for (const Person& person : model_.ledger().people()) {
+        const Decimal& balance = balances.at(person.id);
         rows.push_back({person.id, {QString::fromStdString(person.name), balanceText(balance)}, {}, balance.sign()});
     }
     setRows(std::move(rows));
@@ -45,27 +46,27 @@ void PersonHistoryModel::setPerson(std::optional<Uuid> personID) {
 }
 
 void PersonHistoryModel::refresh() {
+    const std::map<Uuid, std::vector<SharedHistoryItem>>& histories = model_.analyses().peopleHistories();
+    const auto found = person_ ? histories.find(*person_) : histories.end();
+    if (found == histories.end()) person_.reset();
+    items_ = found == histories.end() ? std::vector<SharedHistoryItem>{} : found->second;
     std::vector<Row> rows;
-    const Ledger& ledger = model_.ledger();
-    if (person_ && std::ranges::none_of(ledger.people(), [&](const Person& p) { return p.id == *person_; })) {
-        person_.reset();
-    }
-    if (person_) {
-        const Calendar& calendar = model_.calendar();
-        for (const SharedHistoryItem& item : personHistory(ledger, *person_)) {
-            // Plus: the person owes the user more; minus: less.
-            const QString effect = item.effect.isZero()
-                                       ? euroText(item.effect)
-                                       : movementAmountText(item.effect.magnitude(), item.effect.sign() > 0
-                                                                                         ? TransactionKind::income
-                                                                                         : TransactionKind::expense);
-            rows.push_back({item.id,
-                            {dayText(item.date, calendar), QString::fromStdString(item.description), effect},
-                            {},
-                            item.effect.sign()});
-        }
-    }
+    rows.reserve(items_.size());
+    for (const SharedHistoryItem& item : items_) rows.push_back({item.id, {}, {}, item.effect.sign()});
     setRows(std::move(rows));
+}
+
+QString PersonHistoryModel::cellText(int row, int column) const {
+    const SharedHistoryItem& item = items_[std::size_t(row)];
+    switch (column) {
+        case 0: return dayText(item.date, model_.calendar());
+        case 1: return QString::fromStdString(item.description);
+        default:
+            // Plus: the person owes the user more; minus: less.
+            if (item.effect.isZero()) return euroText(item.effect);
+            return movementAmountText(item.effect.magnitude(),
+                                      item.effect.sign() > 0 ? TransactionKind::income : TransactionKind::expense);
+    }
 }
 
 }  // namespace vantello::app

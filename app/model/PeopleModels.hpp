@@ -3,6 +3,9 @@
 // 12,00 €", "Devi 12,00 €", "In pari"), and one person's history of shares and settlements.
 
 #include "app/model/WealthModels.hpp"
+#include "core/ledger/LedgerSharing.hpp"
+
+#include <vector>
 
 namespace vantello::app {
 
@@ -31,8 +34,11 @@ public:
     void refresh();
 
 private:
+    [[nodiscard]] QString cellText(int row, int column) const override;
+
     LedgerViewModel& model_;
     std::optional<Uuid> person_;
+    std::vector<SharedHistoryItem> items_;
 };
 
 }  // namespace vantello::app

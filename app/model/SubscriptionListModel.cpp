@@ -1,6 +1,7 @@
 #include "app/model/SubscriptionListModel.hpp"
 
 #include "app/model/DisplayText.hpp"
+#include "app/model/LedgerAnalyses.hpp"
 #include "app/model/SymbolIcons.hpp"
 #include "app/settings/ThemeApplication.hpp"
 
@@ -30,7 +31,7 @@ SubscriptionListModel::SubscriptionListModel(LedgerViewModel& model, QObject* pa
 
 void SubscriptionListModel::rebuild() {
     beginResetModel();
-    rows_ = detectSubscriptions(model_.ledger(), model_.calendar());
+    rows_ = model_.analyses().subscriptions();
     endResetModel();
 }
 

@@ -23,14 +23,13 @@ QString shortMonth(Instant moment, const Calendar& calendar) {
 
 }  // namespace
 
-NetWorthOverview netWorthOverview(const Ledger& ledger, Instant now, const Calendar& calendar) {
+NetWorthOverview netWorthOverview(const std::vector<NetWorthPoint>& points, const Calendar& calendar) {
     NetWorthOverview overview;
-    const std::vector<NetWorthPoint> points = netWorthHistory(ledger, 12, now, calendar);
     for (const NetWorthPoint& point : points) {
         const Decimal total = point.value.total();
         overview.history.push_back({shortMonth(point.date, calendar), total.toDouble(), euroText(total)});
     }
-    const NetWorth today = points.empty() ? netWorth(ledger, now, calendar) : points.back().value;
+    const NetWorth today = points.empty() ? NetWorth{} : points.back().value;
     overview.total = today.total();
     overview.figure = euroText(overview.total);
     overview.context = uiText("Conti {accounts} · Beni {assets} · Debiti {debts}",
@@ -56,7 +55,7 @@ QVariant WealthTableModel::data(const QModelIndex& index, int role) const {
     const Column& column = columns_[std::size_t(index.column())];
     switch (role) {
         case Qt::DisplayRole:
-        case Qt::AccessibleTextRole: return row.cells.value(index.column());
+        case Qt::AccessibleTextRole: return cellText(index.row(), index.column());
         case Qt::TextAlignmentRole:
             return column.amount ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter))
                                  : QVariant(int(Qt::AlignLeft | Qt::AlignVCenter));
@@ -93,12 +92,16 @@ int WealthTableModel::rowOf(const Uuid& id) const {
     return -1;
 }
 
+QString WealthTableModel::cellText(int row, int column) const {
+    return rows_[std::size_t(row)].cells.value(column);
+}
+
 QJsonArray WealthTableModel::rowsAsJson() const {
     QJsonArray all;
-    for (const Row& row : rows_) {
-        QJsonObject object{{QStringLiteral("id"), QString::fromStdString(row.id.text())}};
+    for (std::size_t index = 0; index < rows_.size(); ++index) {
+        QJsonObject object{{QStringLiteral("id"), QString::fromStdString(rows_[index].id.text())}};
         for (std::size_t column = 0; column < columns_.size(); ++column) {
-            object.insert(columns_[column].key, row.cells.value(int(column)));
+            object.insert(columns_[column].key, cellText(int(index), int(column)));
         }
         all.append(object);
     }

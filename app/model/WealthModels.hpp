@@ -30,7 +30,8 @@ struct NetWorthOverview {
     std::vector<Point> history;  // oldest first, the last one is now
 };
 
-[[nodiscard]] NetWorthOverview netWorthOverview(const Ledger& ledger, Instant now, const Calendar& calendar);
+// From the points of the net worth's history, oldest first; the last one is now.
+[[nodiscard]] NetWorthOverview netWorthOverview(const std::vector<NetWorthPoint>& points, const Calendar& calendar);
 
 // Common ground of the three tables: a row's record id and the rows as JSON for tests.
 class WealthTableModel : public QAbstractTableModel {
@@ -64,6 +65,9 @@ protected:
         bool coloured = false;  // drawn in the sign's colour
     };
     void setColumns(std::vector<Column> columns) { columns_ = std::move(columns); }
+    // The text of a cell; a table of many rows leaves `cells` empty and writes them only when
+    // they are shown.
+    [[nodiscard]] virtual QString cellText(int row, int column) const;
     void setRows(std::vector<Row> rows);
 
 private:

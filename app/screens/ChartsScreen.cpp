@@ -2,6 +2,7 @@
 
 #include "app/model/ChartModels.hpp"
 #include "app/model/DisplayText.hpp"
+#include "app/screens/ChartStyle.hpp"
 #include "app/screens/MovementsCard.hpp"
 #include "app/settings/ThemeApplication.hpp"
 #include "core/analysis/PieHitTest.hpp"
@@ -35,25 +36,6 @@ QFont scaled(QFont font, qreal factor, bool bold) {
     font.setPointSizeF(font.pointSizeF() * factor);
     font.setBold(bold);
     return font;
-}
-
-QChart* plainChart() {
-    auto* chart = new QChart;
-    chart->setAnimationOptions(QChart::NoAnimation);
-    chart->setBackgroundRoundness(0);
-    chart->setMargins(QMargins(4, 4, 4, 4));
-    chart->setPlotAreaBackgroundVisible(false);
-    return chart;
-}
-
-QChartView* chartView(QChart* chart, const QString& name, const QString& accessibleName, QWidget* parent) {
-    auto* view = new QChartView(chart, parent);
-    view->setObjectName(name);
-    view->setAccessibleName(accessibleName);
-    view->setRenderHint(QPainter::Antialiasing);
-    view->setFrameShape(QFrame::NoFrame);
-    view->setFocusPolicy(Qt::NoFocus);
-    return view;
 }
 
 QLabel* heading(const QString& text, QWidget* parent) {
@@ -119,7 +101,7 @@ ChartsScreen::ChartsScreen(LedgerViewModel& model, QWidget* parent)
     auto* donutColumn = new QVBoxLayout;
     donut_ = plainChart();
     donut_->legend()->hide();
-    donutView_ = chartView(donut_, QStringLiteral("donutChart"), uiText("Uscite per categoria"), categories);
+    donutView_ = chartView(donut_, "donutChart", uiText("Uscite per categoria"), categories);
     donutView_->setMinimumSize(240, 240);
     donutView_->viewport()->setMouseTracking(true);
     donutView_->viewport()->installEventFilter(this);
@@ -182,7 +164,7 @@ ChartsScreen::ChartsScreen(LedgerViewModel& model, QWidget* parent)
     trendLayout->addWidget(heading(uiText("Andamento degli ultimi dodici mesi"), trendCard));
     trendChart_ = plainChart();
     trendChart_->legend()->setAlignment(Qt::AlignBottom);
-    trendView_ = chartView(trendChart_, QStringLiteral("trendChart"), uiText("Andamento degli ultimi dodici mesi"),
+    trendView_ = chartView(trendChart_, "trendChart", uiText("Andamento degli ultimi dodici mesi"),
                            trendCard);
     trendView_->setMinimumHeight(220);
     trendLayout->addWidget(trendView_, 1);
@@ -268,7 +250,7 @@ void ChartsScreen::rebuildTrend() {
     auto* amountAxis = new QValueAxis;
     amountAxis->setRange(lowest, highest > lowest ? highest : lowest + 1);
     amountAxis->applyNiceNumbers();
-    amountAxis->setLabelFormat(QStringLiteral("%.0f"));
+    showEuros(amountAxis);
     trendChart_->addAxis(monthAxis, Qt::AlignBottom);
     trendChart_->addAxis(amountAxis, Qt::AlignLeft);
     for (QAbstractSeries* series : trendChart_->series()) {
@@ -282,17 +264,8 @@ void ChartsScreen::rebuildTrend() {
 void ChartsScreen::applyColours() {
     const ThemePalette& palette = currentPalette();
     slices_->setColours(chartSliceColours(palette));
-    for (QChart* chart : {donut_, trendChart_}) {
-        chart->setBackgroundBrush(palette.cardBackground);
-        chart->setBackgroundPen(Qt::NoPen);
-        chart->legend()->setLabelColor(palette.primaryText);
-        for (QAbstractAxis* axis : chart->axes()) {
-            axis->setLabelsColor(palette.primaryText);
-            axis->setLinePenColor(palette.separator);
-            axis->setGridLineColor(palette.separator);
-        }
-    }
-    for (QChartView* view : {donutView_, trendView_}) view->setBackgroundBrush(palette.cardBackground);
+    paintChart(*donut_, *donutView_, palette);
+    paintChart(*trendChart_, *trendView_, palette);
     if (pie_ != nullptr) {
         const auto slices = pie_->slices();
         for (int row = 0; row < slices.size(); ++row) {

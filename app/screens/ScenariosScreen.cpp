@@ -1,6 +1,7 @@
 #include "app/screens/ScenariosScreen.hpp"
 
 #include "app/model/DisplayText.hpp"
+#include "app/screens/ChartStyle.hpp"
 #include "app/model/ScenarioOutlook.hpp"
 #include "app/model/SymbolIcons.hpp"
 #include "app/screens/MovementsCard.hpp"
@@ -179,9 +180,7 @@ void ScenariosScreen::build() {
     }
     figures->addWidget(tilesBox);
 
-    chart_ = new QChart;
-    chart_->setAnimationOptions(QChart::NoAnimation);
-    chart_->setBackgroundRoundness(6);
+    chart_ = plainChart();
     chart_->legend()->setAlignment(Qt::AlignBottom);
     baselineLine_ = new QLineSeries(chart_);
     baselineLine_->setName(uiText("Senza lo scenario"));
@@ -194,18 +193,15 @@ void ScenariosScreen::build() {
     months->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
     auto* savings = new QValueAxis(chart_);
     savings->setObjectName(QStringLiteral("scenarioSavingsAxis"));
-    savings->setLabelFormat(QStringLiteral("%.0f"));
-    savings->setTitleText(uiText("Risparmi accumulati (€)"));
+    showEuros(savings);
+    savings->setTitleText(uiText("Risparmi accumulati"));
     chart_->addAxis(months, Qt::AlignBottom);
     chart_->addAxis(savings, Qt::AlignLeft);
     for (QLineSeries* line : {baselineLine_, scenarioLine_}) {
         line->attachAxis(months);
         line->attachAxis(savings);
     }
-    chartView_ = new QChartView(chart_, content);
-    chartView_->setObjectName(QStringLiteral("scenarioChart"));
-    chartView_->setAccessibleName(uiText("Proiezione dei risparmi nei prossimi dodici mesi"));
-    chartView_->setRenderHint(QPainter::Antialiasing);
+    chartView_ = chartView(chart_, "scenarioChart", uiText("Proiezione dei risparmi nei prossimi dodici mesi"), content);
     chartView_->setMinimumHeight(260);
     figures->addWidget(chartView_, 3);
 
@@ -350,21 +346,12 @@ void ScenariosScreen::refresh() {
 
 void ScenariosScreen::applyColours() {
     const ThemePalette& colours = currentPalette();
-    chart_->setBackgroundBrush(colours.cardBackground);
-    chart_->setBackgroundPen(Qt::NoPen);
-    chart_->legend()->setLabelColor(colours.primaryText);
+    paintChart(*chart_, *chartView_, colours);
     QColor muted = colours.primaryText;
     muted.setAlphaF(0.55);
     QPen baselinePen(muted, 2, Qt::DashLine);
     baselineLine_->setPen(baselinePen);
     scenarioLine_->setPen(QPen(colours.accent, 3));
-    for (QAbstractAxis* axis : chart_->axes()) {
-        axis->setLabelsColor(colours.primaryText);
-        axis->setTitleBrush(colours.primaryText);
-        axis->setGridLineColor(colours.separator);
-        axis->setLinePenColor(colours.separator);
-    }
-    chartView_->setBackgroundBrush(colours.windowBackground);
     QPalette warning = problem_->palette();
     warning.setColor(QPalette::WindowText, colours.expense);
     problem_->setPalette(warning);

@@ -12,7 +12,9 @@
 #include <QVBoxLayout>
 
 #include "app/model/DisplayText.hpp"
+#include "app/model/LedgerAnalyses.hpp"
 #include "app/model/SharedActions.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/screens/WealthSheet.hpp"
 #include "core/ledger/LedgerSharing.hpp"
 
@@ -21,30 +23,6 @@
 namespace vantello::app {
 
 namespace {
-
-QPushButton* button(const QString& text, const char* name, const QString& accessible) {
-    auto* made = new QPushButton(text);
-    made->setObjectName(QString::fromLatin1(name));
-    made->setAccessibleName(accessible);
-    return made;
-}
-
-QTableView* table(const char* name, const QString& accessible, QAbstractItemModel* rows) {
-    auto* view = new QTableView;
-    view->setObjectName(QString::fromLatin1(name));
-    view->setAccessibleName(accessible);
-    view->setModel(rows);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setAlternatingRowColors(true);
-    view->setShowGrid(false);
-    view->setTabKeyNavigation(false);
-    view->verticalHeader()->hide();
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    view->horizontalHeader()->setStretchLastSection(false);
-    return view;
-}
 
 QLabel* title(const QString& text, const char* name) {
     auto* label = new QLabel(text);
@@ -68,10 +46,10 @@ SharedScreen::SharedScreen(LedgerViewModel& model, QWidget* parent)
       model_(model),
       people_(new PeopleListModel(model, this)),
       history_(new PersonHistoryModel(model, this)) {
-    auto* add = button(uiText("Aggiungi persona…"), "addPersonButton", uiText("Aggiungi persona"));
-    settleButton_ = button(uiText("Salda…"), "settleButton", uiText("Salda il conto con la persona"));
-    deleteButton_ = button(uiText("Elimina persona"), "deletePersonButton", uiText("Elimina persona"));
-    peopleView_ = table("peopleView", uiText("Persone"), people_);
+    auto* add = named(new QPushButton(uiText("Aggiungi persona…")), "addPersonButton", uiText("Aggiungi persona"));
+    settleButton_ = named(new QPushButton(uiText("Salda…")), "settleButton", uiText("Salda il conto con la persona"));
+    deleteButton_ = named(new QPushButton(uiText("Elimina persona")), "deletePersonButton", uiText("Elimina persona"));
+    peopleView_ = recordTable("peopleView", uiText("Persone"), people_);
     peopleView_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     peopleEmpty_ = new QLabel(uiText("Nessuna persona. Aggiungi chi divide le spese con te per sapere chi deve a chi."));
     peopleEmpty_->setObjectName(QStringLiteral("peopleEmpty"));
@@ -89,7 +67,7 @@ SharedScreen::SharedScreen(LedgerViewModel& model, QWidget* parent)
     left->addWidget(peopleView_, 1);
 
     historyTitle_ = title(QString(), "historyTitle");
-    historyView_ = table("historyView", uiText("Storico"), history_);
+    historyView_ = recordTable("historyView", uiText("Storico"), history_);
     historyView_->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     historyEmpty_ = new QLabel(uiText("Nessuna spesa divisa né saldo con questa persona."));
     historyEmpty_->setObjectName(QStringLiteral("historyEmpty"));
@@ -165,7 +143,7 @@ void SharedScreen::settleUp() {
     const std::optional<Uuid> id = selectedPerson();
     const Person* person = id ? findPerson(model_.ledger(), *id) : nullptr;
     if (!person) return;
-    const Decimal balance = personBalance(model_.ledger(), *id);
+    const Decimal balance = model_.analyses().peopleBalances().at(*id);
     auto* sheet = new WealthSheet(uiText("Salda con {name}", {{"name", person->name}}), this);
     sheet->setObjectName(QStringLiteral("settleSheet"));
     auto* standing = new QLabel(balanceText(balance), sheet);

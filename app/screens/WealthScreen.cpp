@@ -18,8 +18,11 @@
 #include <QtCharts>
 
 #include "app/model/DisplayText.hpp"
+#include "app/screens/ChartStyle.hpp"
+#include "app/model/LedgerAnalyses.hpp"
 #include "app/model/WealthActions.hpp"
 #include "app/screens/SummaryTile.hpp"
+#include "app/screens/ScreenControls.hpp"
 #include "app/screens/WealthSheet.hpp"
 #include "app/settings/ThemeApplication.hpp"
 #include "core/ledger/AmountParser.hpp"
@@ -30,30 +33,6 @@
 namespace vantello::app {
 
 namespace {
-
-QPushButton* button(const QString& text, const char* name, const QString& accessible) {
-    auto* made = new QPushButton(text);
-    made->setObjectName(QString::fromLatin1(name));
-    made->setAccessibleName(accessible);
-    return made;
-}
-
-QTableView* table(const char* name, const QString& accessible, QAbstractItemModel* rows) {
-    auto* view = new QTableView;
-    view->setObjectName(QString::fromLatin1(name));
-    view->setAccessibleName(accessible);
-    view->setModel(rows);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setAlternatingRowColors(true);
-    view->setShowGrid(false);
-    view->verticalHeader()->hide();
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    view->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    view->setTabKeyNavigation(false);
-    return view;
-}
 
 QLabel* sectionTitle(const QString& text) {
     auto* label = new QLabel(text);
@@ -101,12 +80,11 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
       assets_(new AssetListModel(model, this)),
       loans_(new LoanListModel(model, this)),
       tile_(new SummaryTile),
-      chart_(new QChart),
+      chart_(plainChart()),
       series_(new QLineSeries),
       monthAxis_(new QBarCategoryAxis),
       valueAxis_(new QValueAxis) {
     // The net worth and its year.
-    chart_->setAnimationOptions(QChart::NoAnimation);
     chart_->legend()->hide();
     chart_->addSeries(series_);
     chart_->addAxis(monthAxis_, Qt::AlignBottom);
@@ -114,14 +92,9 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
     series_->attachAxis(monthAxis_);
     series_->attachAxis(valueAxis_);
     series_->setPointsVisible(true);
-    valueAxis_->setLabelFormat(QStringLiteral("%.0f"));
-    chart_->setMargins(QMargins(4, 4, 4, 4));
-    chartView_ = new QChartView(chart_);
-    chartView_->setObjectName(QStringLiteral("netWorthChart"));
-    chartView_->setAccessibleName(uiText("Patrimonio netto negli ultimi dodici mesi"));
-    chartView_->setRenderHint(QPainter::Antialiasing);
+    showEuros(valueAxis_);
+    chartView_ = chartView(chart_, "netWorthChart", uiText("Patrimonio netto negli ultimi dodici mesi"));
     chartView_->setMinimumSize(360, 220);
-    chartView_->setFocusPolicy(Qt::NoFocus);
 
     tile_->setObjectName(QStringLiteral("netWorthTile"));
     tile_->setMinimumWidth(220);
@@ -130,11 +103,12 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
     top->addWidget(chartView_, 3);
 
     // The assets.
-    auto* addAsset = button(uiText("Nuovo bene…"), "newAssetButton", uiText("Nuovo bene"));
-    editAssetButton_ = button(uiText("Modifica…"), "editAssetButton", uiText("Modifica bene"));
-    valueButton_ = button(uiText("Aggiorna valore…"), "updateValueButton", uiText("Aggiorna valore"));
-    deleteAssetButton_ = button(uiText("Elimina"), "deleteAssetButton", uiText("Elimina bene"));
-    assetsView_ = table("assetsView", uiText("Beni"), assets_);
+    auto* addAsset = named(new QPushButton(uiText("Nuovo bene…")), "newAssetButton", uiText("Nuovo bene"));
+    editAssetButton_ = named(new QPushButton(uiText("Modifica…")), "editAssetButton", uiText("Modifica bene"));
+    valueButton_ = named(new QPushButton(uiText("Aggiorna valore…")), "updateValueButton", uiText("Aggiorna valore"));
+    deleteAssetButton_ = named(new QPushButton(uiText("Elimina")), "deleteAssetButton", uiText("Elimina bene"));
+    assetsView_ = recordTable("assetsView", uiText("Beni"), assets_);
+    assetsView_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     assetsEmpty_ = emptyLabel(uiText("Nessun bene. Aggiungi la casa, l'auto o gli investimenti per contarli nel patrimonio."),
                               "assetsEmpty");
     auto* assetButtons = new QHBoxLayout;
@@ -143,12 +117,13 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
     for (QPushButton* each : {addAsset, editAssetButton_, valueButton_, deleteAssetButton_}) assetButtons->addWidget(each);
 
     // The loans.
-    auto* addLoan = button(uiText("Nuovo prestito…"), "newLoanButton", uiText("Nuovo prestito"));
-    scheduleButton_ = button(uiText("Piano di ammortamento…"), "scheduleButton", uiText("Piano di ammortamento"));
-    bookButton_ = button(uiText("Registra la rata"), "bookLoanButton", uiText("Registra la rata come movimento ricorrente"));
+    auto* addLoan = named(new QPushButton(uiText("Nuovo prestito…")), "newLoanButton", uiText("Nuovo prestito"));
+    scheduleButton_ = named(new QPushButton(uiText("Piano di ammortamento…")), "scheduleButton", uiText("Piano di ammortamento"));
+    bookButton_ = named(new QPushButton(uiText("Registra la rata")), "bookLoanButton", uiText("Registra la rata come movimento ricorrente"));
     bookButton_->setToolTip(uiText("Registra la rata come movimento ricorrente"));
-    deleteLoanButton_ = button(uiText("Elimina"), "deleteLoanButton", uiText("Elimina prestito"));
-    loansView_ = table("loansView", uiText("Prestiti"), loans_);
+    deleteLoanButton_ = named(new QPushButton(uiText("Elimina")), "deleteLoanButton", uiText("Elimina prestito"));
+    loansView_ = recordTable("loansView", uiText("Prestiti"), loans_);
+    loansView_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     loansEmpty_ = emptyLabel(uiText("Nessun prestito. Aggiungi un mutuo o un finanziamento per seguirne le rate."),
                              "loansEmpty");
     auto* loanButtons = new QHBoxLayout;
@@ -213,7 +188,7 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
 }
 
 void WealthScreen::refresh() {
-    overview_ = netWorthOverview(model_.ledger(), model_.now(), model_.calendar());
+    overview_ = netWorthOverview(model_.analyses().netWorthHistory(), model_.calendar());
     MonthTile tile;
     tile.name = QStringLiteral("netWorth");
     tile.label = uiText("Patrimonio netto");
@@ -253,17 +228,11 @@ void WealthScreen::refreshChart() {
     valueAxis_->applyNiceNumbers();
     chartView_->setAccessibleDescription(spoken.join(QStringLiteral("; ")));
 
-    chart_->setBackgroundBrush(colours.cardBackground);
-    chart_->setPlotAreaBackgroundVisible(false);
+    paintChart(*chart_, *chartView_, colours);
     QPen line(colours.accent);
     line.setWidthF(2.5);
     series_->setPen(line);
     series_->setBrush(colours.accent);
-    for (QAbstractAxis* axis : {static_cast<QAbstractAxis*>(monthAxis_), static_cast<QAbstractAxis*>(valueAxis_)}) {
-        axis->setLabelsColor(colours.primaryText);
-        axis->setGridLineColor(colours.separator);
-        axis->setLinePenColor(colours.separator);
-    }
 }
 
 void WealthScreen::changeEvent(QEvent* event) {
@@ -425,9 +394,8 @@ void WealthScreen::showLoanSchedule() {
                                        {"interest", euroText(plan->interestTotal()).toStdString()}}),
                                sheet);
     summary->setObjectName(QStringLiteral("scheduleSummary"));
-    QTableView* view = table("scheduleView", uiText("Piano di ammortamento"), plan);
+    QTableView* view = recordTable("scheduleView", uiText("Piano di ammortamento"), plan);
     view->setParent(sheet);
-    view->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     view->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     view->setMinimumHeight(300);
     view->setMaximumHeight(QWIDGETSIZE_MAX);

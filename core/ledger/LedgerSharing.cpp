@@ -100,28 +100,64 @@ Decimal personBalance(const Ledger& ledger, const Uuid& personID) {
     return balance;
 }
 
-std::vector<SharedHistoryItem> personHistory(const Ledger& ledger, const Uuid& personID) {
-    std::vector<SharedHistoryItem> items;
+std::map<Uuid, Decimal> peopleBalances(const Ledger& ledger) {
+    std::map<Uuid, Decimal> balances;
+    for (const Person& person : ledger.people()) balances[person.id];
+    for (const Transaction& transaction : ledger.transactions()) {
+        for (const PersonShare& share : transaction.shares) balances[share.personID] += share.amount;
+    }
+    for (const SharedEntry& entry : ledger.sharedEntries()) balances[entry.personID] += entry.effect();
+    return balances;
+}
+
+namespace {
+
+// Hands `take` each share and settlement entry of the people `wanted` accepts, as a history line.
+template <typename Wanted, typename Take>
+void walkSharedHistory(const Ledger& ledger, Wanted&& wanted, Take&& take) {
     for (const Transaction& transaction : ledger.transactions()) {
         for (const PersonShare& share : transaction.shares) {
-            if (share.personID != personID) continue;
+            if (!wanted(share.personID)) continue;
             std::string description = transaction.note;
             if (description.empty()) {
                 const auto found = ledger.category(transaction.categoryID);
                 description = found ? found->name : transaction.categoryID;
             }
-            items.push_back({transaction.id, transaction.date, std::move(description), share.amount});
+            take(share.personID, SharedHistoryItem{transaction.id, transaction.date, std::move(description), share.amount});
         }
     }
     for (const SharedEntry& entry : ledger.sharedEntries()) {
-        if (entry.personID != personID) continue;
+        if (!wanted(entry.personID)) continue;
         std::string description = SharedEntry::historyLabel(entry.kind);
         if (!entry.note.empty()) description += " · " + entry.note;
-        items.push_back({entry.id, entry.date, std::move(description), entry.effect()});
+        take(entry.personID, SharedHistoryItem{entry.id, entry.date, std::move(description), entry.effect()});
     }
+}
+
+void newestFirst(std::vector<SharedHistoryItem>& items) {
     std::stable_sort(items.begin(), items.end(),
                      [](const SharedHistoryItem& a, const SharedHistoryItem& b) { return a.date > b.date; });
+}
+
+}  // namespace
+
+std::vector<SharedHistoryItem> personHistory(const Ledger& ledger, const Uuid& personID) {
+    std::vector<SharedHistoryItem> items;
+    walkSharedHistory(
+        ledger, [&](const Uuid& person) { return person == personID; },
+        [&](const Uuid&, SharedHistoryItem item) { items.push_back(std::move(item)); });
+    newestFirst(items);
     return items;
+}
+
+std::map<Uuid, std::vector<SharedHistoryItem>> peopleHistories(const Ledger& ledger) {
+    std::map<Uuid, std::vector<SharedHistoryItem>> histories;
+    for (const Person& person : ledger.people()) histories[person.id];
+    walkSharedHistory(
+        ledger, [](const Uuid&) { return true; },
+        [&](const Uuid& person, SharedHistoryItem item) { histories[person].push_back(std::move(item)); });
+    for (auto& [person, items] : histories) newestFirst(items);
+    return histories;
 }
 
 std::vector<PersonShare> equalSplit(const Decimal& amount, const std::vector<Uuid>& people) {

@@ -6,6 +6,7 @@
 #include "core/base/Uuid.hpp"
 #include "core/ledger/Ledger.hpp"
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,8 +31,12 @@ void updateSharedEntry(Ledger& ledger, SharedEntry entry);
 void deleteSharedEntry(Ledger& ledger, const Uuid& id);
 
 [[nodiscard]] Decimal personBalance(const Ledger& ledger, const Uuid& personID);
+// Every person's balance in one walk over the movements; a person with nothing shared has zero.
+[[nodiscard]] std::map<Uuid, Decimal> peopleBalances(const Ledger& ledger);
 // Newest first.
 [[nodiscard]] std::vector<SharedHistoryItem> personHistory(const Ledger& ledger, const Uuid& personID);
+// Every person's history in one walk over the movements, each newest first.
+[[nodiscard]] std::map<Uuid, std::vector<SharedHistoryItem>> peopleHistories(const Ledger& ledger);
 // One share per chosen person of amount ÷ (people + 1), rounded down to cents; the rest stays
 // with the user.
 [[nodiscard]] std::vector<PersonShare> equalSplit(const Decimal& amount, const std::vector<Uuid>& people);

@@ -3070,8 +3070,12 @@ off with that day and hour.
             <translation>Remove All</translation>
         </message>
         <message>
-            <source>Risparmi accumulati (€)</source>
-            <translation>Savings accumulated (€)</translation>
+            <source>Risparmi accumulati</source>
+            <translation>Savings accumulated</translation>
+        </message>
+        <message>
+            <source>%.0f €</source>
+            <translation>€%.0f</translation>
         </message>
         <message>
             <source>Proiezione dei risparmi nei prossimi dodici mesi</source>

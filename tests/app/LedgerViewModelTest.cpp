@@ -1,9 +1,12 @@
 // The application model on a real data folder: the one door for changes, the failed loads, the
 // demo, the cached month values and undo.
 
+#include "app/model/LedgerAnalyses.hpp"
 #include "app/model/LedgerViewModel.hpp"
 #include "core/files/LedgerStore.hpp"
 #include "core/ledger/Ledger.hpp"
+#include "core/ledger/LedgerSharing.hpp"
+#include "core/planning/SubscriptionActions.hpp"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -240,6 +243,38 @@ private Q_SLOTS:
         QVERIFY(model->alertNotifications());
         QCOMPARE(model->sidebarSelection(), std::optional(QStringLiteral("goals")));
         QVERIFY(model->scenarioAdjustments().empty());  // never saved
+    }
+
+    void analysesWorkedAheadDescribeTheLedgerAsItIsNow() {
+        Workplace place;
+        LedgerData data;
+        for (const Instant day : {noon(2025, 12, 5), noon(2026, 1, 5), noon(2026, 2, 5), noon(2026, 3, 5)}) {
+            Transaction charge = movement("12.99", day, "abbonamenti");
+            charge.note = "Streaming";
+            data.transactions.push_back(charge);
+        }
+        place.store.save(data);
+        auto model = place.model();
+        LedgerAnalyses& analyses = model->analyses();
+        // The first run starts with the events; the change comes while it may still be working.
+        QCoreApplication::processEvents();
+        model->apply(QStringLiteral("Aggiungi persona"), [](Ledger& ledger) { addPerson(ledger, "Anna"); });
+        QTRY_VERIFY(analyses.isReady());
+
+        const Ledger& ledger = model->ledger();
+        QCOMPARE(analyses.subscriptions(), detectSubscriptions(ledger, rome));
+        QCOMPARE(analyses.subscriptions().size(), std::size_t(1));
+        QCOMPARE(analyses.netWorthHistory(), netWorthHistory(ledger, 12, model->now(), rome));
+        QCOMPARE(analyses.peopleBalances().size(), std::size_t(1));
+        QCOMPARE(analyses.peopleHistories().size(), std::size_t(1));
+
+        // Asked before the work ahead ends, a value is worked out on the spot for the ledger as it is.
+        const DetectedSubscription streaming = analyses.subscriptions().front();
+        model->apply(QStringLiteral("Ignora abbonamento"),
+                     [&](Ledger& changed) { ignoreSubscription(changed, streaming); });
+        QVERIFY(analyses.subscriptions().empty());
+        QTRY_VERIFY(analyses.isReady());
+        QVERIFY(analyses.subscriptions().empty());
     }
 
     void withoutDataFolderNothingIsSaved() {

@@ -56,6 +56,8 @@ TEST(SharedExpenses, SharesAndEntriesMakeEachPersonsBalance) {
     EXPECT_EQ(personBalance(ledger, anna.id), Decimal(0));
     EXPECT_EQ(personBalance(ledger, bruno.id), Decimal(10));
     EXPECT_EQ(personBalance(ledger, carla.id), Decimal(-25));
+    const std::map<Uuid, Decimal> everyone{{anna.id, Decimal(0)}, {bruno.id, Decimal(10)}, {carla.id, Decimal(-25)}};
+    EXPECT_EQ(peopleBalances(ledger), everyone);
 
     SharedEntry paidBack = entry(carla, SharedEntry::Kind::paymentMade, 25);
     paidBack.id = ledger.sharedEntries().back().id;
@@ -163,6 +165,9 @@ TEST(SharedExpenses, HistoryIsNewestFirstWithReadableDescriptions) {
         {groceries.id, day(1), ledger.category("spesa")->name, Decimal(10)},
     };
     EXPECT_EQ(personHistory(ledger, anna.id), expected);
+    const Person bruno = addPerson(ledger, "Bruno");
+    const std::map<Uuid, std::vector<SharedHistoryItem>> everyone{{anna.id, expected}, {bruno.id, {}}};
+    EXPECT_EQ(peopleHistories(ledger), everyone);
 }
 
 TEST(SharedExpenses, EqualSplitRoundsDownAndLeavesTheRestToTheUser) {

@@ -1,8 +1,6 @@
 #include "app/model/AccountActions.hpp"
 
 #include "app/model/DisplayText.hpp"
-#include "app/settings/Language.hpp"
-#include "core/base/DecimalFormat.hpp"
 #include "core/base/UserError.hpp"
 #include "core/ledger/AmountParser.hpp"
 #include "core/ledger/LedgerAccounts.hpp"
@@ -54,7 +52,7 @@ AccountDeletion accountDeletionPreview(const Ledger& ledger, std::string_view ac
 
 QString editableAmountText(const std::optional<Decimal>& amount) {
     if (!amount) return {};
-    return QString::fromStdString(plainAmountText(*amount, decimalSeparator(interfaceLocaleName())));
+    return typedAmountText(*amount);
 }
 
 std::variant<std::string, QString> addAccountFromForm(LedgerViewModel& model, const AccountForm& form) {

@@ -1,6 +1,7 @@
 #include "app/model/DisplayText.hpp"
 
 #include "app/settings/Language.hpp"
+#include "core/base/DecimalFormat.hpp"
 #include "core/base/Localization.hpp"
 #include "core/base/PeopleFormat.hpp"
 
@@ -23,6 +24,10 @@ QString countedText(int count, std::string_view one, std::string_view many) {
 
 QString euroText(const Decimal& amount) {
     return QString::fromStdString(PeopleFormat::euro(amount, interfaceLocaleName()));
+}
+
+QString typedAmountText(const Decimal& amount) {
+    return QString::fromStdString(plainAmountText(amount, decimalSeparator(interfaceLocaleName())));
 }
 
 QString movementAmountText(const Decimal& amount, TransactionKind kind) {

@@ -28,6 +28,8 @@ namespace vantello::app {
 
 // An amount in euros, sign as the number has it.
 [[nodiscard]] QString euroText(const Decimal& amount);
+// An amount as the user types it in a field, without grouping: "1250,50" in Italian.
+[[nodiscard]] QString typedAmountText(const Decimal& amount);
 // A movement's amount with its direction: "+1.250,00 €" for income, "−12,50 €" for an expense.
 [[nodiscard]] QString movementAmountText(const Decimal& amount, TransactionKind kind);
 // The abbreviated date of the day the moment falls on.

@@ -1,8 +1,6 @@
 #include "app/model/EditorShares.hpp"
 
 #include "app/model/DisplayText.hpp"
-#include "app/settings/Language.hpp"
-#include "core/base/DecimalFormat.hpp"
 #include "core/ledger/AmountParser.hpp"
 #include "core/ledger/LedgerSharing.hpp"
 
@@ -29,7 +27,7 @@ void EditorSharesModel::setPeople(const std::vector<Person>& people) {
 }
 
 void EditorSharesModel::setAmount(Row& row, const Decimal& amount) {
-    row.amountText = QString::fromStdString(plainAmountText(amount, decimalSeparator(interfaceLocaleName())));
+    row.amountText = typedAmountText(amount);
 }
 
 void EditorSharesModel::setShares(const std::vector<PersonShare>& shares) {

@@ -10,6 +10,11 @@ std::optional<QString> addPersonRecord(LedgerViewModel& model, std::string_view 
                        LedgerViewModel::ErrorRoute::caller);
 }
 
+std::optional<QString> renamePersonRecord(LedgerViewModel& model, const Uuid& personID, std::string_view name) {
+    return model.apply(uiText("Rinomina persona"), [&](Ledger& ledger) { renamePerson(ledger, personID, name); },
+                       LedgerViewModel::ErrorRoute::caller);
+}
+
 void deletePersonRecord(LedgerViewModel& model, const Uuid& personID) {
     model.apply(uiText("Elimina persona"), [&](Ledger& ledger) { deletePerson(ledger, personID); });
 }

@@ -14,6 +14,7 @@
 namespace vantello::app {
 
 std::optional<QString> addPersonRecord(LedgerViewModel& model, std::string_view name);
+std::optional<QString> renamePersonRecord(LedgerViewModel& model, const Uuid& personID, std::string_view name);
 // Takes the person's shares off every movement and deletes the person's entries.
 void deletePersonRecord(LedgerViewModel& model, const Uuid& personID);
 // A payment either way or an expense the person paid for the user ("Salda").

@@ -39,6 +39,12 @@ NetWorthOverview netWorthOverview(const std::vector<NetWorthPoint>& points, cons
     return overview;
 }
 
+bool loanIsBooked(const Ledger& ledger, const Loan& loan) {
+    return loan.recurringRuleID && std::ranges::any_of(ledger.recurringRules(), [&](const RecurringRule& rule) {
+               return rule.id == *loan.recurringRuleID;
+           });
+}
+
 // ---- WealthTableModel
 
 int WealthTableModel::rowCount(const QModelIndex& parent) const {
@@ -159,9 +165,7 @@ void LoanListModel::refresh() {
     const Ledger& ledger = model_.ledger();
     for (const Loan& loan : ledger.data().loans) {
         const LoanSummary summary = loanSummary(loan, now, calendar);
-        const bool booked = loan.recurringRuleID && std::ranges::any_of(ledger.recurringRules(), [&](const auto& rule) {
-                                return rule.id == *loan.recurringRuleID;
-                            });
+        const bool booked = loanIsBooked(ledger, loan);
         const int total = summary.paymentsMade + summary.paymentsLeft;
         rows.push_back({loan.id,
                         {QString::fromStdString(loan.name), euroText(summary.payment), euroText(summary.remaining),

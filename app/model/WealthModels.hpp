@@ -33,6 +33,9 @@ struct NetWorthOverview {
 // From the points of the net worth's history, oldest first; the last one is now.
 [[nodiscard]] NetWorthOverview netWorthOverview(const std::vector<NetWorthPoint>& points, const Calendar& calendar);
 
+// Whether the loan's instalments are booked by a recurring rule that still exists.
+[[nodiscard]] bool loanIsBooked(const Ledger& ledger, const Loan& loan);
+
 // Common ground of the three tables: a row's record id and the rows as JSON for tests.
 class WealthTableModel : public QAbstractTableModel {
     Q_OBJECT

@@ -3,9 +3,7 @@
 #include "app/model/BudgetActions.hpp"
 #include "app/model/DisplayText.hpp"
 #include "app/model/SymbolIcons.hpp"
-#include "app/settings/Language.hpp"
 #include "app/settings/ThemeApplication.hpp"
-#include "core/base/DecimalFormat.hpp"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -85,7 +83,7 @@ void BudgetDialog::fillAmount() {
     const auto found = budgets.find(categoryID());
     amount_->setText(found == budgets.end()
                          ? QString()
-                         : QString::fromStdString(plainAmountText(found->second, decimalSeparator(interfaceLocaleName()))));
+                         : typedAmountText(found->second));
     amount_->selectAll();
     error_->hide();
 }

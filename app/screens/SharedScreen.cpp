@@ -48,6 +48,7 @@ SharedScreen::SharedScreen(LedgerViewModel& model, QWidget* parent)
       history_(new PersonHistoryModel(model, this)) {
     auto* add = named(new QPushButton(uiText("Aggiungi persona…")), "addPersonButton", uiText("Aggiungi persona"));
     settleButton_ = named(new QPushButton(uiText("Salda…")), "settleButton", uiText("Salda il conto con la persona"));
+    renameButton_ = named(new QPushButton(uiText("Rinomina…")), "renamePersonButton", uiText("Rinomina persona"));
     deleteButton_ = named(new QPushButton(uiText("Elimina persona")), "deletePersonButton", uiText("Elimina persona"));
     peopleView_ = recordTable("peopleView", uiText("Persone"), people_);
     peopleView_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -58,6 +59,7 @@ SharedScreen::SharedScreen(LedgerViewModel& model, QWidget* parent)
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(add);
     buttons->addWidget(settleButton_);
+    buttons->addWidget(renameButton_);
     buttons->addWidget(deleteButton_);
     buttons->addStretch(1);
     auto* left = new QVBoxLayout;
@@ -89,6 +91,7 @@ SharedScreen::SharedScreen(LedgerViewModel& model, QWidget* parent)
 
     connect(add, &QPushButton::clicked, this, &SharedScreen::addPerson);
     connect(settleButton_, &QPushButton::clicked, this, &SharedScreen::settleUp);
+    connect(renameButton_, &QPushButton::clicked, this, &SharedScreen::renamePerson);
     connect(deleteButton_, &QPushButton::clicked, this, &SharedScreen::deletePerson);
     connect(peopleView_, &QTableView::activated, this, &SharedScreen::settleUp);
     connect(peopleView_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -122,6 +125,7 @@ void SharedScreen::showSelectedPerson() {
     if (history_->person() != id) history_->setPerson(id);
     const Person* person = id ? findPerson(model_.ledger(), *id) : nullptr;
     settleButton_->setEnabled(person != nullptr);
+    renameButton_->setEnabled(person != nullptr);
     deleteButton_->setEnabled(person != nullptr);
     historyTitle_->setText(person ? uiText("Storico con {name}", {{"name", person->name}}) : uiText("Storico"));
     historyTitle_->setVisible(person != nullptr);
@@ -173,6 +177,20 @@ void SharedScreen::settleUp() {
         entry.date = WealthSheet::momentOf(date->date(), model_.calendar());
         entry.note = note->text().trimmed().toStdString();
         return addSettlement(model_, entry);
+    });
+    sheet->open();
+}
+
+void SharedScreen::renamePerson() {
+    const std::optional<Uuid> id = selectedPerson();
+    const Person* person = id ? findPerson(model_.ledger(), *id) : nullptr;
+    if (!person) return;
+    auto* sheet = new WealthSheet(uiText("Rinomina persona"), this);
+    sheet->setObjectName(QStringLiteral("renamePersonSheet"));
+    QLineEdit* name = sheet->addTextRow(uiText("Nome"), "personNameEdit");
+    name->setText(QString::fromStdString(person->name));
+    sheet->setSave([this, personID = *id, name]() -> std::optional<QString> {
+        return renamePersonRecord(model_, personID, name->text().toStdString());
     });
     sheet->open();
 }

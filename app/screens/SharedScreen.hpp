@@ -26,6 +26,7 @@ public Q_SLOTS:
     // Each opens its window-modal sheet (or the confirmation) over the screen.
     void addPerson();
     void settleUp();
+    void renamePerson();
     void deletePerson();
 
 private:
@@ -42,6 +43,7 @@ private:
     QTableView* historyView_;
     QLabel* historyEmpty_;
     QPushButton* settleButton_;
+    QPushButton* renameButton_;
     QPushButton* deleteButton_;
 };
 

@@ -118,6 +118,7 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
 
     // The loans.
     auto* addLoan = named(new QPushButton(uiText("Nuovo prestito…")), "newLoanButton", uiText("Nuovo prestito"));
+    editLoanButton_ = named(new QPushButton(uiText("Modifica…")), "editLoanButton", uiText("Modifica prestito"));
     scheduleButton_ = named(new QPushButton(uiText("Piano di ammortamento…")), "scheduleButton", uiText("Piano di ammortamento"));
     bookButton_ = named(new QPushButton(uiText("Registra la rata")), "bookLoanButton", uiText("Registra la rata come movimento ricorrente"));
     bookButton_->setToolTip(uiText("Registra la rata come movimento ricorrente"));
@@ -129,7 +130,9 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
     auto* loanButtons = new QHBoxLayout;
     loanButtons->addWidget(sectionTitle(uiText("Prestiti")));
     loanButtons->addStretch(1);
-    for (QPushButton* each : {addLoan, scheduleButton_, bookButton_, deleteLoanButton_}) loanButtons->addWidget(each);
+    for (QPushButton* each : {addLoan, editLoanButton_, scheduleButton_, bookButton_, deleteLoanButton_}) {
+        loanButtons->addWidget(each);
+    }
 
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
@@ -154,10 +157,8 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(scroll);
 
-    const std::vector<QWidget*> order{addAsset,        editAssetButton_, valueButton_, deleteAssetButton_,
-                                      assetsView_,     addLoan,          scheduleButton_, bookButton_,
-                                      deleteLoanButton_, loansView_};
-    for (std::size_t index = 1; index < order.size(); ++index) setTabOrder(order[index - 1], order[index]);
+    chainTabOrder({addAsset, editAssetButton_, valueButton_, deleteAssetButton_, assetsView_, addLoan, editLoanButton_,
+                   scheduleButton_, bookButton_, deleteLoanButton_, loansView_});
 
     connect(addAsset, &QPushButton::clicked, this, &WealthScreen::newAsset);
     connect(editAssetButton_, &QPushButton::clicked, this, &WealthScreen::editAsset);
@@ -165,6 +166,7 @@ WealthScreen::WealthScreen(LedgerViewModel& model, QWidget* parent)
     connect(deleteAssetButton_, &QPushButton::clicked, this, &WealthScreen::deleteAsset);
     connect(assetsView_, &QTableView::activated, this, &WealthScreen::updateAssetValue);
     connect(addLoan, &QPushButton::clicked, this, &WealthScreen::newLoan);
+    connect(editLoanButton_, &QPushButton::clicked, this, &WealthScreen::editLoan);
     connect(scheduleButton_, &QPushButton::clicked, this, &WealthScreen::showLoanSchedule);
     connect(bookButton_, &QPushButton::clicked, this, &WealthScreen::bookLoan);
     connect(deleteLoanButton_, &QPushButton::clicked, this, &WealthScreen::deleteLoan);
@@ -251,7 +253,7 @@ void WealthScreen::updateButtons() {
     const bool asset = selected(*assetsView_, *assets_).has_value();
     for (QPushButton* each : {editAssetButton_, valueButton_, deleteAssetButton_}) each->setEnabled(asset);
     const bool loan = selected(*loansView_, *loans_).has_value();
-    for (QPushButton* each : {scheduleButton_, bookButton_, deleteLoanButton_}) each->setEnabled(loan);
+    for (QPushButton* each : {editLoanButton_, scheduleButton_, bookButton_, deleteLoanButton_}) each->setEnabled(loan);
 }
 
 // ---- assets
@@ -320,9 +322,18 @@ void WealthScreen::deleteAsset() {
 
 // ---- loans
 
-void WealthScreen::newLoan() {
+void WealthScreen::newLoan() { openLoanSheet(std::nullopt); }
+
+void WealthScreen::editLoan() {
+    const std::optional<Uuid> id = selected(*loansView_, *loans_);
+    const auto& loans = model_.ledger().data().loans;
+    const auto found = id ? std::ranges::find(loans, *id, &Loan::id) : loans.end();
+    if (found != loans.end()) openLoanSheet(*found);
+}
+
+void WealthScreen::openLoanSheet(std::optional<Loan> existing) {
     const Ledger& ledger = model_.ledger();
-    auto* sheet = new WealthSheet(uiText("Nuovo prestito"), this);
+    auto* sheet = new WealthSheet(existing ? uiText("Modifica prestito") : uiText("Nuovo prestito"), this);
     sheet->setObjectName(QStringLiteral("loanSheet"));
     QLineEdit* name = sheet->addTextRow(uiText("Nome"), "loanNameEdit");
     QLineEdit* principal = sheet->addAmountRow(uiText("Importo prestato"), "loanPrincipalEdit");
@@ -355,10 +366,22 @@ void WealthScreen::newLoan() {
     book->setAccessibleName(book->text());
     book->setChecked(true);
     sheet->form()->addRow(QString(), book);
+    if (existing) {
+        name->setText(QString::fromStdString(existing->name));
+        principal->setText(typedAmountText(existing->principal));
+        rate->setText(typedAmountText(existing->annualRate));
+        months->setValue(existing->months);
+        first->setDate(WealthSheet::dateOf(existing->firstPayment, model_.calendar()));
+        account->setCurrentIndex(std::max(0, account->findData(QString::fromStdString(existing->accountID))));
+        category->setCurrentIndex(std::max(0, category->findData(QString::fromStdString(existing->categoryID))));
+        book->setChecked(loanIsBooked(ledger, *existing));
+    }
 
-    sheet->setSave([this, name, principal, rate, months, first, account, category, book]() -> std::optional<QString> {
-        Loan loan;
-        loan.id = Uuid::random();
+    sheet->setSave([this, existing, name, principal, rate, months, first, account, category,
+                    book]() -> std::optional<QString> {
+        // An edited loan keeps its id and the rule that books it.
+        Loan loan = existing.value_or(Loan{});
+        if (!existing) loan.id = Uuid::random();
         loan.name = name->text().toStdString();
         const std::optional<Decimal> borrowed = WealthSheet::amountOf(*principal);
         if (!borrowed) return amountHint();

@@ -39,6 +39,8 @@ public Q_SLOTS:
     void updateAssetValue();
     void deleteAsset();
     void newLoan();
+    void editLoan();
+    void openLoanSheet(std::optional<Loan> existing);
     void showLoanSchedule();
     void bookLoan();
     void deleteLoan();
@@ -69,6 +71,7 @@ private:
     QPushButton* editAssetButton_;
     QPushButton* valueButton_;
     QPushButton* deleteAssetButton_;
+    QPushButton* editLoanButton_;
     QPushButton* scheduleButton_;
     QPushButton* bookButton_;
     QPushButton* deleteLoanButton_;

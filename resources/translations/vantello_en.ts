@@ -3070,6 +3070,10 @@ off with that day and hour.
             <translation>Remove All</translation>
         </message>
         <message>
+            <source>Rinomina persona</source>
+            <translation>Rename Person</translation>
+        </message>
+        <message>
             <source>Risparmi accumulati</source>
             <translation>Savings accumulated</translation>
         </message>

@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(screen.historyModel().person(), std::optional<Uuid>(giulia));
     }
 
-    void addingAndDeletingAPerson() {
+    void addingRenamingAndDeletingAPerson() {
         Workplace place;
         auto model = place.model();
         SharedScreen screen(*model);
@@ -142,6 +142,17 @@ private Q_SLOTS:
         QCOMPARE(screen.peopleModel().rowCount(), 1);
         QCOMPARE(shownBalance(screen, 0), QStringLiteral("In pari"));
         QVERIFY(part<QPushButton>(screen, "settleButton")->isEnabled());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+        part<QPushButton>(screen, "renamePersonButton")->click();
+        auto* rename = part<QDialog>(screen, "renamePersonSheet");
+        QCOMPARE(part<QLineEdit>(*rename, "personNameEdit")->text(), QStringLiteral("Marco"));
+        part<QLineEdit>(*rename, "personNameEdit")->setText(QStringLiteral("Marco Rossi"));
+        part<QPushButton>(*rename, "saveButton")->click();
+        QVERIFY(!rename->isVisible());
+        QCOMPARE(model->ledger().people().front().name, std::string("Marco Rossi"));
+        QCOMPARE(part<QLabel>(screen, "historyTitle")->text(), QStringLiteral("Storico con Marco Rossi"));
+        QCOMPARE(model->undoTitle(), QStringLiteral("Annulla Rinomina persona"));
 
         // Cancelling the question keeps the person.
         part<QPushButton>(screen, "deletePersonButton")->click();

@@ -180,6 +180,22 @@ private Q_SLOTS:
         auto* plan = part<QDialog>(screen, "loanScheduleSheet");
         QCOMPARE(part<QTableView>(*plan, "scheduleView")->model()->rowCount(), 60);
         plan->reject();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+        // Edited over ten years: the same loan and the same rule, booking the new instalment.
+        const Decimal fiveYearInstalment = model->ledger().recurringRules().front().amount;
+        part<QPushButton>(screen, "editLoanButton")->click();
+        auto* edit = part<QDialog>(screen, "loanSheet");
+        QCOMPARE(part<QLineEdit>(*edit, "loanPrincipalEdit")->text(), QStringLiteral("120000,00"));
+        QVERIFY(part<QCheckBox>(*edit, "loanBookCheck")->isChecked());
+        part<QSpinBox>(*edit, "loanMonthsEdit")->setValue(120);
+        part<QPushButton>(*edit, "saveButton")->click();
+        QVERIFY(!edit->isVisible());
+        QCOMPARE(model->ledger().data().loans.size(), std::size_t(1));
+        QCOMPARE(model->ledger().data().loans.front().months, 120);
+        QCOMPARE(model->ledger().recurringRules().size(), std::size_t(1));
+        QVERIFY(model->ledger().recurringRules().front().amount < fiveYearInstalment);
+        QCOMPARE(model->undoTitle(), QStringLiteral("Annulla Modifica prestito"));
 
         part<QPushButton>(screen, "deleteLoanButton")->click();
         auto* ask = part<QMessageBox>(screen, "confirmDeletion");

@@ -342,6 +342,12 @@ void LedgerViewModel::setExchangeRates(std::optional<ExchangeRates> rates) {
     Q_EMIT exchangeRatesChanged();
 }
 
+void LedgerViewModel::setNotificationsDenied(bool denied) {
+    if (denied == notificationsDenied_) return;
+    notificationsDenied_ = denied;
+    Q_EMIT notificationsDeniedChanged();
+}
+
 void LedgerViewModel::setAlertSettings(const AlertSettings& settings) {
     if (settings == alertSettings_) return;
     alertSettings_ = settings;

@@ -167,6 +167,9 @@ public:
     void setAlertSettings(const AlertSettings& settings);
     [[nodiscard]] bool alertNotifications() const { return alertNotifications_; }
     void setAlertNotifications(bool enabled);
+    // The desktop has no notification server: only the in-app banners remain.
+    [[nodiscard]] bool notificationsDenied() const { return notificationsDenied_; }
+    void setNotificationsDenied(bool denied);
 
     // ---- bank statements and exports
     struct ImportSession {
@@ -245,6 +248,7 @@ Q_SIGNALS:
     void importSessionChanged();
     void salaryReminderChanged();
     void alertSettingsChanged();
+    void notificationsDeniedChanged();
     void exchangeRatesChanged();
     void draftChanged();
     void scenarioAdjustmentsChanged();
@@ -301,6 +305,7 @@ private:
     std::optional<Instant> salaryPostponedDay_;
     AlertSettings alertSettings_;
     bool alertNotifications_ = false;
+    bool notificationsDenied_ = false;
     std::optional<ExchangeRates> exchangeRates_;
     std::optional<TransactionDraft> draft_;
     std::vector<Attachment> unsavedAttachments_;

@@ -41,7 +41,10 @@ void ProfilesController::showModel(const std::optional<ManagedProfile>& profile)
     }
     model_ = std::make_unique<LedgerViewModel>(std::move(modelSetup), this);
     if (setup_.rates && !setup_.rates->rates().hasNoRates()) model_->setExchangeRates(setup_.rates->rates());
-    if (setup_.notifications) modelNotifications_ = std::make_unique<ModelNotifications>(*model_, *setup_.notifications);
+    if (setup_.notifications) {
+        model_->setNotificationsDenied(setup_.notifications->isDenied());
+        modelNotifications_ = std::make_unique<ModelNotifications>(*model_, *setup_.notifications);
+    }
 }
 
 void ProfilesController::reloadList() {

@@ -52,6 +52,10 @@ bool NotificationService::isDenied() const {
 
 std::optional<QString> NotificationService::deniedMessage() const {
     if (!isDenied()) return std::nullopt;
+    return deniedText();
+}
+
+QString NotificationService::deniedText() {
     return QString::fromStdString(L10n::tr("Le notifiche di Vantello sono disattivate: resterà solo l'avviso nell'app."));
 }
 

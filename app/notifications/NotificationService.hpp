@@ -34,6 +34,7 @@ public:
     [[nodiscard]] bool isDenied() const;
     // What the work screen says while notifications are denied.
     [[nodiscard]] std::optional<QString> deniedMessage() const;
+    [[nodiscard]] static QString deniedText();
 
 private:
     QDBusConnection bus_;

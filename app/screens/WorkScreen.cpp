@@ -141,14 +141,15 @@ WorkScreen::WorkScreen(LedgerViewModel& model, QWidget* parent)
     chainTabOrder({resumeButton_, addButton, emptyButton, list_, editButton_, deleteButton_, reminderCheck_, daySpin_,
                    hourSpin_});
 
-    setNotificationMessage(NotificationService().deniedMessage());
+    connect(&model_, &LedgerViewModel::notificationsDeniedChanged, this, &WorkScreen::showNotificationState);
+    showNotificationState();
     showStatus();
     showSelection();
 }
 
-void WorkScreen::setNotificationMessage(const std::optional<QString>& message) {
-    notificationLabel_->setText(message.value_or(QString()));
-    notificationLabel_->setVisible(message.has_value());
+void WorkScreen::showNotificationState() {
+    notificationLabel_->setText(model_.notificationsDenied() ? NotificationService::deniedText() : QString());
+    notificationLabel_->setVisible(model_.notificationsDenied());
 }
 
 std::optional<Uuid> WorkScreen::selectedPeriodID() const {

@@ -24,14 +24,10 @@ class WorkPeriodsModel;
 class WorkScreen : public QWidget {
     Q_OBJECT
 public:
-    // Asks the session bus once whether a notification server is there.
     explicit WorkScreen(LedgerViewModel& model, QWidget* parent = nullptr);
 
     [[nodiscard]] WorkPeriodsModel& listModel() const { return *periods_; }
     [[nodiscard]] std::optional<Uuid> selectedPeriodID() const;
-    // The line shown while the desktop's notifications are off (absent hides it); the main
-    // window can pass what its own notification service knows.
-    void setNotificationMessage(const std::optional<QString>& message);
 
 public Q_SLOTS:
     // Ends the period in progress today.
@@ -42,6 +38,8 @@ public Q_SLOTS:
     void deleteSelected();
 
 private:
+    // The line shown while the desktop's notifications are off, as the model knows it.
+    void showNotificationState();
     void showStatus();
     void showReminder();
     void storeReminder();

@@ -169,11 +169,11 @@ private Q_SLOTS:
         auto model = place.model();
         WorkScreen screen(*model);
         auto* line = part<QLabel>(screen, "notificationStateLabel");
-        const QString refused = uiText("Le notifiche di Vantello sono disattivate: resterà solo l'avviso nell'app.");
-        screen.setNotificationMessage(refused);
+        QVERIFY(line->isHidden());
+        model->setNotificationsDenied(true);
         QVERIFY(!line->isHidden());
-        QCOMPARE(line->text(), refused);
-        screen.setNotificationMessage(std::nullopt);
+        QCOMPARE(line->text(), uiText("Le notifiche di Vantello sono disattivate: resterà solo l'avviso nell'app."));
+        model->setNotificationsDenied(false);
         QVERIFY(line->isHidden());
     }
 };

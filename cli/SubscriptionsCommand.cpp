@@ -65,7 +65,9 @@ int list(const Arguments& arguments, std::ostream& out) {
         return 0;
     }
     for (const DetectedSubscription& subscription : found) print(subscription, calendar, out);
-    out << L10n::tr("Abbonamenti: {numero}", {{"numero", std::to_string(found.size())}}) << '\n';
+    out << L10n::tr("Abbonamenti: {numero}, in tutto {anno} all'anno",
+                    {{"numero", std::to_string(found.size())}, {"anno", euro(yearlyTotal(found))}})
+        << '\n';
     return 0;
 }
 

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "app/model/DisplayText.hpp"
+#include "app/model/LedgerAnalyses.hpp"
 #include "app/model/SubscriptionActions.hpp"
 #include "app/model/SubscriptionListModel.hpp"
 #include "app/settings/ThemeApplication.hpp"
@@ -38,6 +39,9 @@ SubscriptionsScreen::SubscriptionsScreen(LedgerViewModel& model, QWidget* parent
     title->setFont(titleFont);
     auto* intro = new QLabel(uiText("Addebiti che tornano ogni settimana, mese o anno, trovati tra i movimenti."));
     intro->setWordWrap(true);
+    total_ = new QLabel;
+    total_->setObjectName(QStringLiteral("subscriptionsTotal"));
+    total_->setWordWrap(true);
 
     table_ = new QTreeView;
     table_->setObjectName(QStringLiteral("subscriptionsTable"));
@@ -89,6 +93,7 @@ SubscriptionsScreen::SubscriptionsScreen(LedgerViewModel& model, QWidget* parent
     layout->setContentsMargins(20, 16, 20, 16);
     layout->addWidget(title);
     layout->addWidget(intro);
+    layout->addWidget(total_);
     layout->addWidget(pages_, 1);
 
     connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &SubscriptionsScreen::updateActions);
@@ -117,6 +122,11 @@ void SubscriptionsScreen::fitColumns() {
 
 void SubscriptionsScreen::updateActions() {
     pages_->setCurrentIndex(subscriptions_->rowCount() == 0 ? 0 : 1);
+    const Decimal yearly = yearlyTotal(model_.analyses().subscriptions());
+    total_->setText(uiText("In tutto {year} l'anno, in media {month} al mese.",
+                           {{"year", euroText(yearly).toStdString()},
+                            {"month", euroText(yearly.dividedBy(12)->rounded(2)).toStdString()}}));
+    total_->setVisible(subscriptions_->rowCount() > 0);
     const auto key = selectedKey();
     const DetectedSubscription* selected = key ? subscriptions_->subscription(subscriptions_->rowOf(*key)) : nullptr;
     ignore_->setEnabled(selected != nullptr);

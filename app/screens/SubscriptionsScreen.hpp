@@ -36,6 +36,7 @@ private:
     LedgerViewModel& model_;
     SubscriptionListModel* subscriptions_;
     QStackedWidget* pages_;
+    QLabel* total_ = nullptr;
     QTreeView* table_;
     QPushButton* ignore_;
     QPushButton* recurring_;

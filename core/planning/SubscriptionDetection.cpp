@@ -166,6 +166,12 @@ std::vector<DetectedSubscription> detectSubscriptions(const Ledger& ledger, cons
     return found;
 }
 
+Decimal yearlyTotal(const std::vector<DetectedSubscription>& subscriptions) {
+    Decimal total;
+    for (const DetectedSubscription& subscription : subscriptions) total += subscription.yearlyCost();
+    return total;
+}
+
 void to_json(Json& json, const DetectedSubscription& subscription) {
     json = Json::object();
     json["id"] = subscription.id;

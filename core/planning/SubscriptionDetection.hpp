@@ -41,6 +41,9 @@ struct DetectedSubscription {
 // Every subscription in the ledger, highest yearly cost first, equal costs by name.
 [[nodiscard]] std::vector<DetectedSubscription> detectSubscriptions(const Ledger& ledger, const Calendar& calendar);
 
+// What the subscriptions cost in a year, all together: the sum of their yearly costs.
+[[nodiscard]] Decimal yearlyTotal(const std::vector<DetectedSubscription>& subscriptions);
+
 // The fields under their names, with the derived monthlyCost, yearlyCost and priceIncreased.
 void to_json(Json& json, const DetectedSubscription& subscription);
 

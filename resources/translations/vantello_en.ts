@@ -792,8 +792,8 @@ or 15.
             <translation>No subscriptions found</translation>
         </message>
         <message>
-            <source>Abbonamenti: {numero}</source>
-            <translation>Subscriptions: {numero}</translation>
+            <source>Abbonamenti: {numero}, in tutto {anno} all'anno</source>
+            <translation>Subscriptions: {numero}, {anno} a year in all</translation>
         </message>
         <message>
             <source>«{nome}» non verrà più proposto come abbonamento.</source>
@@ -3068,6 +3068,10 @@ off with that day and hour.
         <message>
             <source>Togli tutte</source>
             <translation>Remove All</translation>
+        </message>
+        <message>
+            <source>In tutto {year} l'anno, in media {month} al mese.</source>
+            <translation>{year} a year in all, {month} a month on average.</translation>
         </message>
         <message>
             <source>Rinomina persona</source>

@@ -66,6 +66,7 @@ private Q_SLOTS:
         QCOMPARE(first[QStringLiteral("yearly")].toString(),
                  movementAmountText(detected.front().yearlyCost(), TransactionKind::expense));
         QCOMPARE(first[QStringLiteral("next")].toString(), dayText(detected.front().nextExpected, rome));
+        QVERIFY(part<QLabel>(screen, "subscriptionsTotal")->text().contains(euroText(yearlyTotal(detected))));
         // Nothing selected, nothing to act on.
         QVERIFY(!part<QPushButton>(screen, "ignoreSubscriptionButton")->isEnabled());
     }
@@ -85,6 +86,9 @@ private Q_SLOTS:
         QVERIFY(model->ledger().data().ignoredSubscriptions.contains(key));
         QVERIFY(part<QLabel>(screen, "subscriptionsMessage")->isVisibleTo(&screen));
         QVERIFY(!part<QPushButton>(screen, "ignoreSubscriptionButton")->isEnabled());
+        QVERIFY(part<QLabel>(screen, "subscriptionsTotal")
+                    ->text()
+                    .contains(euroText(yearlyTotal(detectSubscriptions(model->ledger(), rome)))));
 
         model->undo();
         QVERIFY(screen.listModel().rowOf(key) >= 0);

@@ -113,9 +113,12 @@ TEST(SubscriptionDetection, ListedByYearlyCostThenName) {
     }
     charges.push_back(charge("200", at(2024, 2, 1), "Assicurazione"));
     charges.push_back(charge("200", at(2025, 2, 1), "Assicurazione"));
+    const std::vector<DetectedSubscription> found = detected(charges);
     std::vector<std::string> names;
-    for (const DetectedSubscription& subscription : detected(charges)) names.push_back(subscription.name);
+    for (const DetectedSubscription& subscription : found) names.push_back(subscription.name);
     EXPECT_EQ(names, (std::vector<std::string>{"Assicurazione", "Dropbox", "Palestra"}));
+    // 200 a year and twice 10 a month.
+    EXPECT_EQ(yearlyTotal(found), amount("440"));
 }
 
 TEST(SubscriptionActions, IgnoredKeyNeverComesBack) {

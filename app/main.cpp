@@ -6,6 +6,7 @@
 #include "app/model/RatesKeeper.hpp"
 #include "app/model/SymbolIcons.hpp"
 #include "app/notifications/NotificationService.hpp"
+#include "app/screens/ContrastStyle.hpp"
 #include "app/screens/MainWindow.hpp"
 #include "app/screens/QuickAddTray.hpp"
 #include "app/screens/Screenshots.hpp"
@@ -94,6 +95,7 @@ int main(int argc, char* argv[]) {
     if (options.value(language) == QLatin1String("en")) forcedLanguage = vantello::app::InterfaceLanguage::english;
     if (options.value(language) == QLatin1String("it")) forcedLanguage = vantello::app::InterfaceLanguage::italian;
     vantello::app::installInterfaceLanguage(application, forcedLanguage);
+    QApplication::setStyle(new vantello::app::ContrastStyle(QApplication::style()->name()));
     // SIGTERM, SIGINT, SIGHUP and the session's end quit through the event loop, so that the
     // ledger writers are flushed before the process ends.
     vantello::app::OrderlyQuit orderlyQuit(application);

@@ -59,7 +59,8 @@ constexpr std::pair<std::string_view, const char*> table[] = {
     {"paintpalette", "preferences-desktop-theme"},
     {"externaldrive.badge.timemachine", "drive-harddisk"},
     {"arrow.clockwise", "view-refresh"},
-    {"bell", "preferences-system-notifications"},
+    // The full-colour bell exists only as a large legacy picture; the symbolic one reads at any size.
+    {"bell", "preferences-system-notifications-symbolic"},
     {"list.bullet", "view-list"},
     {"chart.pie", "x-office-spreadsheet"},
     {"gauge", "accessories-calculator"},
@@ -123,7 +124,9 @@ QIcon symbolIcon(std::string_view symbolName) {
     if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
     const QString iconName = themeIconName(symbolName);
     QIcon icon;
-    if (!iconName.isEmpty()) {
+    if (iconName.endsWith(QLatin1String("-symbolic"))) {
+        icon = tinted(QIcon::fromTheme(iconName), textColour);
+    } else if (!iconName.isEmpty()) {
         icon = QIcon::fromTheme(iconName);
         // Themes such as Adwaita keep many names only in their symbolic form, drawn in one grey
         // that a dark palette would hide.

@@ -3,6 +3,8 @@
 
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
+#include <QCheckBox>
+#include <QStyleOptionButton>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -14,11 +16,13 @@
 #include <QtTest>
 
 #include "app/model/ProfilesController.hpp"
+#include "app/screens/ContrastStyle.hpp"
 #include "app/screens/SettingsAppearanceTab.hpp"
 #include "app/screens/SettingsBackupTab.hpp"
 #include "app/screens/SettingsProfilesTab.hpp"
 #include "app/screens/SettingsWindow.hpp"
 #include "app/settings/ThemeApplication.hpp"
+#include "app/settings/ThemePalette.hpp"
 
 using namespace vantello;
 using namespace vantello::app;
@@ -154,6 +158,25 @@ private Q_SLOTS:
         QCOMPARE(place.profiles->model().profile()->displayName(), std::string("Mario Rossi"));
         QCOMPARE(list->model()->index(1, 0).data().toString(), QStringLiteral("Mario Rossi (in uso)"));
         QCOMPARE(list->model()->index(0, 0).data().toString(), QStringLiteral("Le mie finanze"));
+    }
+
+    // On the dark palette an unticked box stands out from the window around it.
+    void uncheckedBoxesShowOnTheDarkPalette() {
+        ContrastStyle style(QStringLiteral("Fusion"));
+        QCheckBox box(QStringLiteral("Notifica"));
+        box.setStyle(&style);
+        box.setPalette(standardDarkPalette());
+        box.resize(box.sizeHint());
+        const QImage drawn = box.grab().toImage();
+        QStyleOptionButton option;
+        option.initFrom(&box);
+        const QRect indicator = style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+        const int background = standardDarkPalette().color(QPalette::Window).lightness();
+        int brightest = 0;
+        for (int x = indicator.left(); x <= indicator.right(); ++x) {
+            brightest = std::max(brightest, QColor(drawn.pixel(x, indicator.center().y())).lightness());
+        }
+        QVERIFY2(brightest - background > 60, qPrintable(QString::number(brightest - background)));
     }
 };
 

@@ -14,9 +14,11 @@ namespace {
 
 // Symbol names of the ledger (those of the built-in categories and accounts first, then the
 // ones the pickers offer) and the freedesktop icon name that shows the same thing, taken from
-// Adwaita where the standard list of icon names has none.
+// Adwaita where the standard list of icon names has none; a name starting with ":/" is one of
+// the application's own pictures.
 constexpr std::pair<std::string_view, const char*> table[] = {
-    {"cart", "emoji-objects"},
+    // Icon themes have no shopping cart; ours is bundled.
+    {"cart", ":/icons/cart-symbolic.svg"},
     {"house", "go-home"},
     {"bolt", "battery-full-charging"},
     {"car", "emoji-travel"},
@@ -124,7 +126,9 @@ QIcon symbolIcon(std::string_view symbolName) {
     if (const auto found = made.constFind(key); found != made.constEnd()) return *found;
     const QString iconName = themeIconName(symbolName);
     QIcon icon;
-    if (iconName.endsWith(QLatin1String("-symbolic"))) {
+    if (iconName.startsWith(QLatin1String(":/"))) {
+        icon = tinted(QIcon(iconName), textColour);
+    } else if (iconName.endsWith(QLatin1String("-symbolic"))) {
         icon = tinted(QIcon::fromTheme(iconName), textColour);
     } else if (!iconName.isEmpty()) {
         icon = QIcon::fromTheme(iconName);

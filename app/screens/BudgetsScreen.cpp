@@ -1,3 +1,4 @@
+#include "app/screens/MonthSwitcher.hpp"
 #include "app/screens/BudgetsScreen.hpp"
 
 #include "app/model/BudgetActions.hpp"
@@ -27,12 +28,6 @@
 namespace vantello::app {
 
 namespace {
-
-QFont scaled(QFont font, qreal factor, bool bold) {
-    font.setPointSizeF(font.pointSizeF() * factor);
-    font.setBold(bold);
-    return font;
-}
 
 QPushButton* button(const QString& text, const QString& name, QWidget* parent) {
     auto* made = new QPushButton(text, parent);
@@ -129,27 +124,7 @@ BudgetsScreen::BudgetsScreen(LedgerViewModel& model, QWidget* parent)
     layout->setSpacing(10);
 
     auto* header = new QHBoxLayout;
-    previousMonth_ = new QToolButton(this);
-    previousMonth_->setObjectName(QStringLiteral("previousMonthButton"));
-    previousMonth_->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    previousMonth_->setAccessibleName(uiText("Mese precedente"));
-    previousMonth_->setToolTip(uiText("Mese precedente"));
-    previousMonth_->setAutoRaise(true);
-    connect(previousMonth_, &QToolButton::clicked, &model_, &LedgerViewModel::showPreviousMonth);
-    monthTitle_ = new QLabel(this);
-    monthTitle_->setObjectName(QStringLiteral("monthTitle"));
-    monthTitle_->setFont(scaled(monthTitle_->font(), 1.5, true));
-    monthTitle_->setAlignment(Qt::AlignCenter);
-    monthTitle_->setMinimumWidth(monthTitle_->fontMetrics().horizontalAdvance(QStringLiteral("settembre 0000")) + 16);
-    nextMonth_ = new QToolButton(this);
-    nextMonth_->setObjectName(QStringLiteral("nextMonthButton"));
-    nextMonth_->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-    nextMonth_->setAccessibleName(uiText("Mese successivo"));
-    nextMonth_->setToolTip(uiText("Mese successivo"));
-    nextMonth_->setAutoRaise(true);
-    connect(nextMonth_, &QToolButton::clicked, &model_, &LedgerViewModel::showNextMonth);
-    currentMonth_ = button(uiText("Torna al mese in corso"), QStringLiteral("currentMonthButton"), this);
-    connect(currentMonth_, &QPushButton::clicked, &model_, &LedgerViewModel::showCurrentMonth);
+    monthSwitcher_ = new MonthSwitcher(model_, this);
     addBudget_ = button(uiText("Imposta budget"), QStringLiteral("addBudgetButton"), this);
     addBudget_->setIcon(symbolIcon("plus.circle"));
     connect(addBudget_, &QPushButton::clicked, this, [this] { openBudgetDialog(); });
@@ -157,10 +132,7 @@ BudgetsScreen::BudgetsScreen(LedgerViewModel& model, QWidget* parent)
     connect(editBudget_, &QPushButton::clicked, this, &BudgetsScreen::editSelected);
     removeBudget_ = button(uiText("Rimuovi budget"), QStringLiteral("removeBudgetButton"), this);
     connect(removeBudget_, &QPushButton::clicked, this, &BudgetsScreen::removeSelected);
-    header->addWidget(previousMonth_);
-    header->addWidget(monthTitle_);
-    header->addWidget(nextMonth_);
-    header->addWidget(currentMonth_);
+    header->addWidget(monthSwitcher_);
     header->addStretch(1);
     header->addWidget(editBudget_);
     header->addWidget(removeBudget_);
@@ -210,9 +182,7 @@ BudgetsScreen::BudgetsScreen(LedgerViewModel& model, QWidget* parent)
     unbudgetedLayout->addWidget(unbudgeted_, 1);
     layout->addWidget(unbudgetedCard);
 
-    setTabOrder(previousMonth_, nextMonth_);
-    setTabOrder(nextMonth_, currentMonth_);
-    setTabOrder(currentMonth_, editBudget_);
+    setTabOrder(monthSwitcher_->lastControl(), editBudget_);
     setTabOrder(editBudget_, removeBudget_);
     setTabOrder(removeBudget_, addBudget_);
     setTabOrder(addBudget_, view_);
@@ -227,8 +197,6 @@ BudgetsScreen::BudgetsScreen(LedgerViewModel& model, QWidget* parent)
 void BudgetsScreen::refresh() {
     const std::string selected = selectedCategoryID();
     list_->setSummary(model_.monthSummary());
-    monthTitle_->setText(monthTitle(model_.selectedMonth(), model_.calendar()));
-    currentMonth_->setVisible(!model_.isShowingCurrentMonth());
     pages_->setCurrentIndex(list_->rowCount() == 0 ? 1 : 0);
     unbudgeted_->setText(list_->unbudgetedText());
     unbudgeted_->setAccessibleName(unbudgeted_->text());

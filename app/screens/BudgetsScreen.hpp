@@ -19,6 +19,8 @@ class QToolButton;
 
 namespace vantello::app {
 
+class MonthSwitcher;
+
 class BudgetDialog;
 class BudgetListModel;
 
@@ -50,10 +52,7 @@ private:
 
     LedgerViewModel& model_;
     BudgetListModel* list_;
-    QToolButton* previousMonth_;
-    QLabel* monthTitle_;
-    QToolButton* nextMonth_;
-    QPushButton* currentMonth_;
+    MonthSwitcher* monthSwitcher_ = nullptr;
     QPushButton* addBudget_;
     QPushButton* editBudget_;
     QPushButton* removeBudget_;

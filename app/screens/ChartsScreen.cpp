@@ -1,3 +1,4 @@
+#include "app/screens/MonthSwitcher.hpp"
 #include "app/screens/ChartsScreen.hpp"
 
 #include "app/model/ChartModels.hpp"
@@ -60,33 +61,8 @@ ChartsScreen::ChartsScreen(LedgerViewModel& model, QWidget* parent)
 
     // ---- the month
     auto* header = new QHBoxLayout;
-    previousMonth_ = new QToolButton(this);
-    previousMonth_->setObjectName(QStringLiteral("previousMonthButton"));
-    previousMonth_->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    previousMonth_->setAccessibleName(uiText("Mese precedente"));
-    previousMonth_->setToolTip(uiText("Mese precedente"));
-    previousMonth_->setAutoRaise(true);
-    connect(previousMonth_, &QToolButton::clicked, &model_, &LedgerViewModel::showPreviousMonth);
-    monthTitle_ = new QLabel(this);
-    monthTitle_->setObjectName(QStringLiteral("monthTitle"));
-    monthTitle_->setFont(scaled(monthTitle_->font(), 1.5, true));
-    monthTitle_->setAlignment(Qt::AlignCenter);
-    monthTitle_->setMinimumWidth(monthTitle_->fontMetrics().horizontalAdvance(QStringLiteral("settembre 0000")) + 16);
-    nextMonth_ = new QToolButton(this);
-    nextMonth_->setObjectName(QStringLiteral("nextMonthButton"));
-    nextMonth_->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-    nextMonth_->setAccessibleName(uiText("Mese successivo"));
-    nextMonth_->setToolTip(uiText("Mese successivo"));
-    nextMonth_->setAutoRaise(true);
-    connect(nextMonth_, &QToolButton::clicked, &model_, &LedgerViewModel::showNextMonth);
-    currentMonth_ = new QPushButton(uiText("Torna al mese in corso"), this);
-    currentMonth_->setObjectName(QStringLiteral("currentMonthButton"));
-    currentMonth_->setAccessibleName(currentMonth_->text());
-    connect(currentMonth_, &QPushButton::clicked, &model_, &LedgerViewModel::showCurrentMonth);
-    header->addWidget(previousMonth_);
-    header->addWidget(monthTitle_);
-    header->addWidget(nextMonth_);
-    header->addWidget(currentMonth_);
+    monthSwitcher_ = new MonthSwitcher(model_, this);
+    header->addWidget(monthSwitcher_);
     header->addStretch(1);
     layout->addLayout(header);
 
@@ -170,9 +146,7 @@ ChartsScreen::ChartsScreen(LedgerViewModel& model, QWidget* parent)
     trendLayout->addWidget(trendView_, 1);
     layout->addWidget(trendCard, 2);
 
-    setTabOrder(previousMonth_, nextMonth_);
-    setTabOrder(nextMonth_, currentMonth_);
-    setTabOrder(currentMonth_, legend_);
+    setTabOrder(monthSwitcher_->lastControl(), legend_);
 
     connect(&model_, &LedgerViewModel::ledgerChanged, this, &ChartsScreen::refresh);
     connect(&model_, &LedgerViewModel::selectedMonthChanged, this, &ChartsScreen::refresh);
@@ -185,8 +159,6 @@ ChartsScreen::ChartsScreen(LedgerViewModel& model, QWidget* parent)
 
 void ChartsScreen::refresh() {
     const MonthSummary& summary = model_.monthSummary();
-    monthTitle_->setText(monthTitle(model_.selectedMonth(), model_.calendar()));
-    currentMonth_->setVisible(!model_.isShowingCurrentMonth());
     monthExpenses_ = summary.totals.expenses;
     const bool changed = summary.slices != slices_->slices();
     slices_->setSlices(summary.slices);

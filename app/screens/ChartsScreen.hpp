@@ -24,6 +24,8 @@ class QTreeView;
 
 namespace vantello::app {
 
+class MonthSwitcher;
+
 class ChartSlicesModel;
 class ChartTrendModel;
 
@@ -69,10 +71,7 @@ private:
     LedgerViewModel& model_;
     ChartSlicesModel* slices_;
     ChartTrendModel* trend_;
-    QToolButton* previousMonth_;
-    QLabel* monthTitle_;
-    QToolButton* nextMonth_;
-    QPushButton* currentMonth_;
+    MonthSwitcher* monthSwitcher_ = nullptr;
     QStackedWidget* pages_;
     QLabel* emptyText_;
     QChart* donut_;

@@ -1,3 +1,4 @@
+#include "app/screens/MonthSwitcher.hpp"
 #include "app/screens/MovementsScreen.hpp"
 
 #include "app/model/AlertActions.hpp"
@@ -80,30 +81,7 @@ void MovementsScreen::buildHeader(QVBoxLayout* layout) {
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
 
-    previousMonth_ = new QToolButton(this);
-    previousMonth_->setObjectName(QStringLiteral("previousMonthButton"));
-    previousMonth_->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    previousMonth_->setAccessibleName(uiText("Mese precedente"));
-    previousMonth_->setToolTip(uiText("Mese precedente"));
-    previousMonth_->setAutoRaise(true);
-    connect(previousMonth_, &QToolButton::clicked, &model_, &LedgerViewModel::showPreviousMonth);
-
-    monthTitle_ = new QLabel(this);
-    monthTitle_->setObjectName(QStringLiteral("monthTitle"));
-    monthTitle_->setFont(scaled(monthTitle_->font(), 1.5, true));
-    monthTitle_->setAlignment(Qt::AlignCenter);
-    monthTitle_->setMinimumWidth(monthTitle_->fontMetrics().horizontalAdvance(QStringLiteral("settembre 0000")) + 16);
-
-    nextMonth_ = new QToolButton(this);
-    nextMonth_->setObjectName(QStringLiteral("nextMonthButton"));
-    nextMonth_->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-    nextMonth_->setAccessibleName(uiText("Mese successivo"));
-    nextMonth_->setToolTip(uiText("Mese successivo"));
-    nextMonth_->setAutoRaise(true);
-    connect(nextMonth_, &QToolButton::clicked, &model_, &LedgerViewModel::showNextMonth);
-
-    currentMonth_ = button(uiText("Torna al mese in corso"), QStringLiteral("currentMonthButton"), this);
-    connect(currentMonth_, &QPushButton::clicked, &model_, &LedgerViewModel::showCurrentMonth);
+    monthSwitcher_ = new MonthSwitcher(model_, this);
 
     accountLabel_ = new QLabel(uiText("Mostra un solo conto"), this);
     accountFilter_ = new QComboBox(this);
@@ -123,10 +101,7 @@ void MovementsScreen::buildHeader(QVBoxLayout* layout) {
     addIncome_->setIcon(symbolIcon("plus.circle"));
     connect(addIncome_, &QPushButton::clicked, this, [this] { Q_EMIT newRequested(TransactionKind::income); });
 
-    row->addWidget(previousMonth_);
-    row->addWidget(monthTitle_);
-    row->addWidget(nextMonth_);
-    row->addWidget(currentMonth_);
+    row->addWidget(monthSwitcher_);
     row->addStretch(1);
     row->addWidget(accountLabel_);
     row->addWidget(accountFilter_);
@@ -282,20 +257,12 @@ QWidget* MovementsScreen::buildStartCard() {
 
 void MovementsScreen::refresh() {
     listModel_->refresh();  // before the page is chosen from its rows
-    refreshHeader();
     refreshAccounts();
     refreshTiles();
     refreshAlerts();
     refreshSalaryBanner();
     refreshPage();
     orderTabs();
-}
-
-void MovementsScreen::refreshHeader() {
-    const QString title = monthTitle(model_.selectedMonth(), model_.calendar());
-    monthTitle_->setText(title);
-    monthTitle_->setAccessibleName(title);
-    currentMonth_->setVisible(!model_.isShowingCurrentMonth());
 }
 
 void MovementsScreen::refreshAccounts() {
@@ -398,7 +365,7 @@ void MovementsScreen::refreshPage() {
 }
 
 void MovementsScreen::orderTabs() {
-    std::vector<QWidget*> chain{previousMonth_, nextMonth_, currentMonth_, accountFilter_, addExpense_, addIncome_};
+    std::vector<QWidget*> chain{monthSwitcher_->lastControl(), accountFilter_, addExpense_, addIncome_};
     for (SummaryTile* tile : tiles_) {
         if (auto* info = tile->findChild<QToolButton*>()) chain.push_back(info);
     }

@@ -22,6 +22,8 @@ class QVBoxLayout;
 
 namespace vantello::app {
 
+class MonthSwitcher;
+
 class MonthMovementsModel;
 class MovementsCard;
 class SummaryTile;
@@ -65,7 +67,6 @@ private:
     QWidget* buildEmptyMonth();
 
     void refresh();
-    void refreshHeader();
     void refreshAccounts();
     void refreshTiles();
     void refreshAlerts();
@@ -79,10 +80,7 @@ private:
     LedgerViewModel& model_;
     MonthMovementsModel* listModel_;
 
-    QToolButton* previousMonth_ = nullptr;
-    QToolButton* nextMonth_ = nullptr;
-    QLabel* monthTitle_ = nullptr;
-    QPushButton* currentMonth_ = nullptr;
+    MonthSwitcher* monthSwitcher_ = nullptr;
     QLabel* accountLabel_ = nullptr;
     QComboBox* accountFilter_ = nullptr;
     QPushButton* addExpense_ = nullptr;

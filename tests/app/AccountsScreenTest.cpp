@@ -51,10 +51,7 @@ class AccountsScreenTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QApplication::setOrganizationName(QStringLiteral("Vantello"));
-        QApplication::setApplicationName(QStringLiteral("Vantello"));
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
+        useItalianInterface();
         useDesktopIconTheme();
     }
 

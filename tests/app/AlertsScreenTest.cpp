@@ -53,10 +53,7 @@ class AlertsScreenTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QApplication::setOrganizationName(QStringLiteral("Vantello"));
-        QApplication::setApplicationName(QStringLiteral("Vantello"));
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
+        useItalianInterface();
     }
 
     void kindSwitchedOffLeavesTheList() {

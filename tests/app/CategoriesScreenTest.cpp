@@ -61,10 +61,7 @@ class CategoriesScreenTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QApplication::setOrganizationName(QStringLiteral("Vantello"));
-        QApplication::setApplicationName(QStringLiteral("Vantello"));
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
+        useItalianInterface();
         useDesktopIconTheme();
     }
 

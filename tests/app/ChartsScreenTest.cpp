@@ -48,10 +48,7 @@ class ChartsScreenTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QApplication::setOrganizationName(QStringLiteral("Vantello"));
-        QApplication::setApplicationName(QStringLiteral("Vantello"));
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
+        useItalianInterface();
     }
 
     void demoMonthShowsSlicesLegendAndTrend() {

@@ -46,10 +46,7 @@ class GoalsScreenTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QApplication::setOrganizationName(QStringLiteral("Vantello"));
-        QApplication::setApplicationName(QStringLiteral("Vantello"));
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
+        useItalianInterface();
     }
 
     void demoGoalCardShowsWhatTheCoreDerives() {

@@ -249,43 +249,6 @@ private Q_SLOTS:
         QCOMPARE(place.model->importSession()->statement.separator, ';');
         QCOMPARE(place.model->importSession()->statement.rows[0].transaction->date, noon(2026, 4, 3));
     }
-
-    void rendersReadablyInBothLanguagesAndThemes() {
-        Workplace place;
-        place.model->apply(QStringLiteral("Aggiungi conto"), [](Ledger& ledger) {
-            ledger.change([](LedgerData& data) {
-                data.accounts.push_back({"carta", "Carta di credito", "creditcard", {}, {}});
-            });
-        });
-        const std::string text = bankHeader +
-                                 "04/03/2026;NETFLIX.COM AMSTERDAM;-9,99;Svago\n"
-                                 "07/03/2026;STIPENDIO MARZO ACME SRL;1.250,00;\n"
-                                 "07/03/2026;TRAM;-2,00;\n07/03/2026;TRAM;-2,00;\n"
-                                 "31/02/2026;RIGA ROTTA;-5,00;\n";
-        const struct {
-            const char* language;
-            AppTheme theme;
-            const char* file;
-        } looks[] = {// Italian first: a translator once installed stays for the process.
-                     {"it", AppTheme::light, "import-sheet-it-light.png"},
-                     {"it", AppTheme::dark, "import-sheet-it-dark.png"},
-                     {"en", AppTheme::dark, "import-sheet-en-dark.png"},
-                     {"en", AppTheme::light, "import-sheet-en-light.png"}};
-        for (const auto& look : looks) {
-            Preferences().setValue(QStringLiteral("language"), QString::fromLatin1(look.language));
-            installInterfaceLanguage(*qApp);
-            applyTheme(look.theme);
-            place.open("estratto.csv", text);
-            ImportSheet sheet(*place.model);
-            sheet.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&sheet));
-            QVERIFY(sheet.grab().save(QDir::temp().filePath(QString::fromLatin1(look.file))));
-            sheet.reject();
-        }
-        Preferences().setValue(QStringLiteral("language"), QStringLiteral("it"));
-        installInterfaceLanguage(*qApp);
-        applyTheme(AppTheme::system);
-    }
 };
 
 QTEST_MAIN(ImportSheetTest)

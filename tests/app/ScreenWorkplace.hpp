@@ -1,8 +1,13 @@
 #pragma once
-// What the screen tests share: Rome's calendar, noon of a day, and a model on a temporary data
-// folder with its own preferences and a clock frozen at noon of 18 March 2026.
+// What the screen tests share: the Italian interface, Rome's calendar, noon of a day, and a
+// model on a temporary data folder with its own preferences and a clock frozen at noon of
+// 18 March 2026.
 
 #include "app/model/LedgerViewModel.hpp"
+#include "app/settings/Language.hpp"
+
+#include <QCoreApplication>
+#include <QSettings>
 
 #include <QTemporaryDir>
 
@@ -14,6 +19,14 @@ namespace vantello::app::testing {
 inline const Calendar rome("Europe/Rome");
 
 inline Instant noon(int year, int month, int day) { return *rome.date({year, month, day}, 12); }
+
+// The application's names for its settings, and the Italian interface whatever the machine's.
+inline void useItalianInterface() {
+    QCoreApplication::setOrganizationName(QStringLiteral("Vantello"));
+    QCoreApplication::setApplicationName(QStringLiteral("Vantello"));
+    QSettings().remove(QStringLiteral("language"));
+    installInterfaceLanguage(*QCoreApplication::instance());
+}
 
 struct Workplace {
     QTemporaryDir home;

@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,15 +12,12 @@
 #include <QSettings>
 #include <QTableView>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
 
 #include "app/model/DisplayText.hpp"
 #include "app/model/LedgerViewModel.hpp"
 #include "app/screens/SharedScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/ledger/LedgerSharing.hpp"
 #include "tests/app/ScreenWorkplace.hpp"
 
@@ -42,25 +38,6 @@ QString shownBalance(const SharedScreen& screen, int row) {
     return screen.peopleModel().index(row, 1).data().toString();
 }
 
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
-
 }  // namespace
 
 class SharedScreenTest : public QObject {
@@ -68,10 +45,7 @@ class SharedScreenTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QApplication::setOrganizationName(QStringLiteral("Vantello"));
-        QApplication::setApplicationName(QStringLiteral("Vantello"));
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
+        useItalianInterface();
     }
 
     void balancesSayWhoOwesWhom() {
@@ -164,31 +138,6 @@ private Q_SLOTS:
         part<QPushButton>(*part<QMessageBox>(screen, "confirmDeletion"), "confirmButton")->click();
         QCOMPARE(screen.peopleModel().rowCount(), 0);
         QVERIFY(model->ledger().people().empty());
-    }
-
-    // Writes the screen in light and dark, Italian and English, for looking at.
-    void renderings() {
-        Workplace place;
-        auto model = place.model();
-        model->enterDemo();
-        const QString table = qEnvironmentVariable("VANTELLO_TRANSLATION_TABLE");
-        for (const bool english : {false, true}) {
-            TableTranslator translator(table);
-            if (english && !translator.isEmpty()) QCoreApplication::installTranslator(&translator);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                SharedScreen screen(*model);
-                screen.resize(900, 520);
-                const QString name = QStringLiteral("%1/shared-%2-%3.png")
-                                         .arg(QDir::tempPath(), english ? QStringLiteral("en") : QStringLiteral("it"),
-                                              theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
-                QVERIFY(screen.grab().save(name));
-                screen.settleUp();
-                QVERIFY(part<QDialog>(screen, "settleSheet")->grab().save(QString(name).replace(QStringLiteral("shared-"), QStringLiteral("settle-sheet-"))));
-            }
-            QCoreApplication::removeTranslator(&translator);
-        }
-        applyTheme(AppTheme::light);
     }
 };
 

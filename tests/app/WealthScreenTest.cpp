@@ -5,7 +5,6 @@
 // Qt's headers come first: moc cannot read the standard library's <concepts> before them.
 #include <QApplication>
 #include <QDialog>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,16 +12,13 @@
 #include <QSettings>
 #include <QTableView>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QtCharts>
 #include <QtTest>
 
 #include "app/model/DisplayText.hpp"
 #include "app/model/LedgerViewModel.hpp"
 #include "app/screens/WealthScreen.hpp"
-#include "app/settings/AppTheme.hpp"
 #include "app/settings/Language.hpp"
-#include "app/settings/ThemeApplication.hpp"
 #include "core/planning/NetWorth.hpp"
 #include "tests/app/ScreenWorkplace.hpp"
 
@@ -45,27 +41,6 @@ QString coreNetWorth(const LedgerViewModel& model) {
     return euroText(netWorth(model.ledger(), model.now(), model.calendar()).total());
 }
 
-// The Italian texts in another language, read from "italian<TAB>translation" lines, for looking
-// at a rendering before the catalogue has them.
-class TableTranslator : public QTranslator {
-public:
-    explicit TableTranslator(const QString& file) {
-        QFile table(file);
-        if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-        while (!table.atEnd()) {
-            const QStringList fields = QString::fromUtf8(table.readLine()).chopped(1).split(QLatin1Char('\t'));
-            if (fields.size() == 2) texts_.insert(fields[0], fields[1]);
-        }
-    }
-    [[nodiscard]] QString translate(const char*, const char* source, const char*, int) const override {
-        return texts_.value(QString::fromUtf8(source));
-    }
-    [[nodiscard]] bool isEmpty() const override { return texts_.isEmpty(); }
-
-private:
-    QHash<QString, QString> texts_;
-};
-
 }  // namespace
 
 class WealthScreenTest : public QObject {
@@ -73,10 +48,7 @@ class WealthScreenTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QApplication::setOrganizationName(QStringLiteral("Vantello"));
-        QApplication::setApplicationName(QStringLiteral("Vantello"));
-        QSettings().remove(QStringLiteral("language"));
-        installInterfaceLanguage(*QCoreApplication::instance());
+        useItalianInterface();
     }
 
     void demoShowsNetWorthItsYearAssetsAndLoans() {
@@ -202,33 +174,6 @@ private Q_SLOTS:
         part<QPushButton>(*ask, "confirmButton")->click();
         QCOMPARE(screen.loanModel().rowCount(), 0);
         QVERIFY(model->ledger().recurringRules().empty());
-    }
-
-    // Writes the screen in light and dark, Italian and English, for looking at.
-    void renderings() {
-        Workplace place;
-        auto model = place.model();
-        model->enterDemo();
-        const QString table = qEnvironmentVariable("VANTELLO_TRANSLATION_TABLE");
-        for (const bool english : {false, true}) {
-            TableTranslator translator(table);
-            if (english && !translator.isEmpty()) QCoreApplication::installTranslator(&translator);
-            for (const AppTheme theme : {AppTheme::light, AppTheme::dark}) {
-                applyTheme(theme);
-                WealthScreen screen(*model);
-                screen.resize(960, 760);
-                const QString name = QStringLiteral("%1/wealth-%2-%3.png")
-                                         .arg(QDir::tempPath(), english ? QStringLiteral("en") : QStringLiteral("it"),
-                                              theme == AppTheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
-                QVERIFY(screen.grab().save(name));
-                screen.newLoan();
-                QVERIFY(part<QDialog>(screen, "loanSheet")->grab().save(QString(name).replace(QStringLiteral("wealth-"), QStringLiteral("loan-sheet-"))));
-                screen.showLoanSchedule();
-                QVERIFY(part<QDialog>(screen, "loanScheduleSheet")->grab().save(QString(name).replace(QStringLiteral("wealth-"), QStringLiteral("loan-plan-"))));
-            }
-            QCoreApplication::removeTranslator(&translator);
-        }
-        applyTheme(AppTheme::light);
     }
 };
 

@@ -36,36 +36,26 @@ LedgerAnalyses::Inputs LedgerAnalyses::currentInputs() const {
     return {model_.ledgerRevision(), model_.calendar().startOfDay(model_.now()), model_.alertSettings()};
 }
 
-template <typename Value, typename Compute>
-const Value& LedgerAnalyses::kept(Kept<Value>& memo, Compute&& compute) {
-    Inputs inputs = currentInputs();
-    if (memo.inputs != inputs) {
-        memo.value = compute();
-        memo.inputs = std::move(inputs);
-    }
-    return memo.value;
-}
-
 const std::vector<SmartAlert>& LedgerAnalyses::alerts() {
-    return kept(alerts_, [&] { return alertsOf(model_.ledger(), model_.alertSettings(), model_.now(), model_.calendar()); });
+    return alerts_.get(currentInputs(), [&] { return alertsOf(model_.ledger(), model_.alertSettings(), model_.now(), model_.calendar()); });
 }
 
 const std::vector<DetectedSubscription>& LedgerAnalyses::subscriptions() {
-    return kept(subscriptions_, [&] { return detectSubscriptions(model_.ledger(), model_.calendar()); });
+    return subscriptions_.get(currentInputs(), [&] { return detectSubscriptions(model_.ledger(), model_.calendar()); });
 }
 
 const std::vector<NetWorthPoint>& LedgerAnalyses::netWorthHistory() {
-    return kept(netWorthHistory_, [&] {
+    return netWorthHistory_.get(currentInputs(), [&] {
         return vantello::netWorthHistory(model_.ledger(), netWorthMonths, model_.now(), model_.calendar());
     });
 }
 
 const std::map<Uuid, Decimal>& LedgerAnalyses::peopleBalances() {
-    return kept(peopleBalances_, [&] { return vantello::peopleBalances(model_.ledger()); });
+    return peopleBalances_.get(currentInputs(), [&] { return vantello::peopleBalances(model_.ledger()); });
 }
 
 const std::map<Uuid, std::vector<SharedHistoryItem>>& LedgerAnalyses::peopleHistories() {
-    return kept(peopleHistories_, [&] { return vantello::peopleHistories(model_.ledger()); });
+    return peopleHistories_.get(currentInputs(), [&] { return vantello::peopleHistories(model_.ledger()); });
 }
 
 bool LedgerAnalyses::isReady() const {
@@ -113,17 +103,11 @@ void LedgerAnalyses::take(const Inputs& inputs, Results results) {
         return;
     }
     // A value already worked out on the spot for these inputs is the same; it stays.
-    const auto keep = [&](auto& memo, auto& value) {
-        if (memo.inputs != inputs) {
-            memo.value = std::move(value);
-            memo.inputs = inputs;
-        }
-    };
-    keep(alerts_, results.alerts);
-    keep(subscriptions_, results.subscriptions);
-    keep(netWorthHistory_, results.netWorthHistory);
-    keep(peopleBalances_, results.peopleBalances);
-    keep(peopleHistories_, results.peopleHistories);
+    alerts_.offer(inputs, results.alerts);
+    subscriptions_.offer(inputs, results.subscriptions);
+    netWorthHistory_.offer(inputs, results.netWorthHistory);
+    peopleBalances_.offer(inputs, results.peopleBalances);
+    peopleHistories_.offer(inputs, results.peopleHistories);
     Q_EMIT ready();
 }
 

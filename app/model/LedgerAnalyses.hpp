@@ -10,6 +10,7 @@
 // The Qt side first: moc cannot read the standard library's <concepts> before Qt's headers.
 #include <QObject>
 
+#include "app/model/Memo.hpp"
 #include "core/analysis/AlertSettings.hpp"
 #include "core/analysis/SmartAlert.hpp"
 #include "core/base/Calendar.hpp"
@@ -71,11 +72,6 @@ private:
         std::map<Uuid, Decimal> peopleBalances;
         std::map<Uuid, std::vector<SharedHistoryItem>> peopleHistories;
     };
-    template <typename Value>
-    struct Kept {
-        std::optional<Inputs> inputs;
-        Value value;
-    };
 
     [[nodiscard]] Inputs currentInputs() const;
     // Starts the work ahead once the events waiting have run, so that a burst of changes
@@ -83,15 +79,13 @@ private:
     void scheduleWorkAhead();
     void workAhead();
     void take(const Inputs& inputs, Results results);
-    template <typename Value, typename Compute>
-    const Value& kept(Kept<Value>& memo, Compute&& compute);
 
     LedgerViewModel& model_;
-    Kept<std::vector<SmartAlert>> alerts_;
-    Kept<std::vector<DetectedSubscription>> subscriptions_;
-    Kept<std::vector<NetWorthPoint>> netWorthHistory_;
-    Kept<std::map<Uuid, Decimal>> peopleBalances_;
-    Kept<std::map<Uuid, std::vector<SharedHistoryItem>>> peopleHistories_;
+    Memo<std::vector<SmartAlert>, Inputs> alerts_;
+    Memo<std::vector<DetectedSubscription>, Inputs> subscriptions_;
+    Memo<std::vector<NetWorthPoint>, Inputs> netWorthHistory_;
+    Memo<std::map<Uuid, Decimal>, Inputs> peopleBalances_;
+    Memo<std::map<Uuid, std::vector<SharedHistoryItem>>, Inputs> peopleHistories_;
     bool scheduled_ = false;
     bool working_ = false;
     std::unique_ptr<QThreadPool> pool_;  // one thread

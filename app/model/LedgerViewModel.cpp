@@ -22,15 +22,6 @@ const QString sidebarSelectionKey = QStringLiteral("sidebarSelection");
 
 QString unsavedSuffix() { return text(L10n::tr(" Le modifiche non verranno salvate.")); }
 
-template <typename Value, typename Inputs, typename Compute>
-const Value& remembered(std::optional<Inputs>& storedInputs, Value& value, Inputs inputs, Compute&& compute) {
-    if (storedInputs != inputs) {
-        value = compute();
-        storedInputs = std::move(inputs);
-    }
-    return value;
-}
-
 }  // namespace
 
 LedgerViewModel::LedgerViewModel(Setup setup, QObject* parent)
@@ -251,19 +242,19 @@ LedgerViewModel::MonthInputs LedgerViewModel::monthInputs() const {
 
 const Ledger& LedgerViewModel::visibleLedger() {
     if (!selectedAccountID_) return ledger_;
-    return remembered(visibleLedger_.inputs, visibleLedger_.value, std::tuple{revision_, selectedAccountID_},
-                      [&] { return ledgerOfAccount(ledger_, *selectedAccountID_); });
+    return visibleLedger_.get(std::tuple{revision_, selectedAccountID_},
+                             [&] { return ledgerOfAccount(ledger_, *selectedAccountID_); });
 }
 
 const MonthSummary& LedgerViewModel::monthSummary() {
-    return remembered(monthSummary_.inputs, monthSummary_.value, monthInputs(), [&] {
+    return monthSummary_.get(monthInputs(), [&] {
         return vantello::monthSummary(visibleLedger(), selectedMonth_, now_(), calendar_, selectedAccountID_);
     });
 }
 
 const std::vector<Transaction>& LedgerViewModel::monthTransactions() {
-    return remembered(monthTransactions_.inputs, monthTransactions_.value, monthInputs(),
-                      [&] { return vantello::monthTransactions(visibleLedger(), selectedMonth_, calendar_); });
+    return monthTransactions_.get(monthInputs(),
+                                  [&] { return vantello::monthTransactions(visibleLedger(), selectedMonth_, calendar_); });
 }
 
 const std::vector<SmartAlert>& LedgerViewModel::alerts() {

@@ -5,6 +5,7 @@
 // ledger, and only when the copy differs is it taken, counted, saved off the main thread and
 // announced. Lives on the main thread.
 
+#include "app/model/Memo.hpp"
 #include "app/model/UndoHistory.hpp"
 #include "app/settings/Preferences.hpp"
 #include "core/analysis/MonthSummary.hpp"
@@ -257,12 +258,6 @@ Q_SIGNALS:
     void exportRequestChanged();
 
 private:
-    // Keeps the value computed for `inputs` until they change.
-    template <typename Value, typename Inputs>
-    struct Memo {
-        std::optional<Inputs> inputs;
-        Value value;
-    };
     using MonthInputs = std::tuple<std::uint64_t, Instant, std::optional<std::string>, Instant>;
 
     void load();
